@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+
+namespace tavrelin {
+
+/// The status bar of a screen (`stsInfo`). Its first panel is where the program speaks: news
+/// plainly, refusals with an icon and in bold, so that no meaning rests on color alone. Screen
+/// readers are told of both.
+class MessageBar : public QStatusBar {
+  Q_OBJECT
+
+ public:
+  explicit MessageBar(QWidget* parent = nullptr);
+
+  void ShowRefusal(const QString& message);
+  void ShowNews(const QString& message);
+  void ClearMessage();
+  /// The text of the first panel; empty when there is none.
+  QString Message() const;
+  bool IsRefusal() const { return refusal_; }
+
+ private:
+  void Put(const QString& message, bool refusal);
+
+  QLabel* icon_;
+  QLabel* text_;
+  bool refusal_ = false;
+};
+
+}  // namespace tavrelin

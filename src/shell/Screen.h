@@ -1,0 +1,87 @@
+#pragma once
+
+#include <functional>
+#include <QWidget>
+
+#include "shell/CSError.h"
+
+class QStatusBar;
+
+namespace tavrelin {
+
+class Browser;
+class Clipboard;
+class Clock;
+class MessageBar;
+class Operator;
+class Printer;
+class Store;
+
+/// Everything outside a screen that it may use, handed in by the window (or by a test). The window
+/// owns all of it; it outlives the screens.
+struct Surroundings {
+  Operator& person;
+  Clock& clock;
+  Clipboard& clipboard;
+  Browser& browser;
+  Store& store;
+  Printer& printer;
+  CSError::Display showError;
+};
+
+/// The base of the panels beside the button bar. Created once, hidden; shown and hidden by the
+/// window; never destroyed before it. A screen opens its own connection in UserControl_Show and
+/// drops it, with all its recordsets, in UserControl_Hide: nothing of the data survives in a hidden
+/// screen.
+///
+/// Its objectName is its name ("uctProfile"); every control in it carries its own name as
+/// objectName too.
+class Screen : public QWidget {
+  Q_OBJECT
+
+ public:
+  Screen(const QString& name, const QString& title, const Surroundings& surroundings,
+         QWidget* parent);
+  ~Screen() override;
+
+  const QString& Title() const { return title_; }
+
+ Q_SIGNALS:
+  /// Asks the window to show another screen in place of this one.
+  void NextUserControl(const QString& screen);
+  /// True locks the operator into this screen, false lets go.
+  void ModalBehavior(bool modal);
+
+ protected:
+  /// Opens the connection, fills the controls. The busy pointer is taken back by the base
+  /// afterwards.
+  virtual void UserControl_Show() {}
+  /// Ends edits, stores what the operator left, drops recordsets and connection.
+  virtual void UserControl_Hide() {}
+
+  /// Runs an event procedure under its name within this screen's CSError.
+  bool Event(const char* procedure, const std::function<void()>& body) {
+    return errors_.Run(procedure, body);
+  }
+
+  /// A refusal in the first panel of stsInfo: beep, icon and text; it stays until the next action.
+  void Refuse(const QString& message);
+  /// News in the first panel: no beep.
+  void Say(const QString& message);
+
+  const Surroundings& around() const { return surroundings_; }
+  CSError& errors() { return errors_; }
+  /// The status bar at the foot of the screen; the screen lays it out.
+  MessageBar* stsInfo() const { return stsInfo_; }
+
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  QString title_;
+  Surroundings surroundings_;
+  CSError errors_;
+  MessageBar* stsInfo_;
+};
+
+}  // namespace tavrelin
