@@ -1,26 +1,27 @@
 #pragma once
 
-#include <QMap>
 #include <QString>
 
 namespace tavrelin {
 
 /// The operator's own settings: one small file of sections and texts, under the platform's
 /// configuration folder (the environment variable TAVRELIN_STORE points it elsewhere). Read at each
-/// call and written whole and renamed, so two programs do not undo each other. An empty section is
-/// the root. These operations never throw: a failure reads as the default.
+/// call, and written whole to a neighbor and renamed under a lock, so two programs do not undo each
+/// other. An empty section is the root; names are told apart without regard to case. These
+/// operations never throw: a failure reads as the default.
 class Store {
  public:
   /// The file of the environment or the platform.
   Store();
   explicit Store(QString file);
 
-  /// True when the text was written.
+  /// True when the text was written. A store that is there and cannot be read is left as it is.
   bool SaveRegistryString(const QString& section, const QString& name, const QString& value);
-  /// The trimmed text, cut at 255 characters; `fallback` when it is missing or blank.
+  /// The text, cut at 255 characters and trimmed; `fallback` when it is missing or blank, and an
+  /// empty text when the store is there and cannot be read.
   QString GetRegistryString(const QString& section, const QString& name,
                             const QString& fallback = {}) const;
-  /// 0 the section exists, 1 it does not, 2 the store cannot be read.
+  /// 0 the section exists, 1 it does not, 2 the store cannot be read. The name is not looked at.
   int RegistryKeyState(const QString& section, const QString& name = {}) const;
   /// The machine's own store, read and never written: the file of TAVRELIN_MACHINE_STORE, or
   /// nothing.

@@ -1,0 +1,182 @@
+#include "shell/Store.h"
+
+#include <optional>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QList>
+#include <QLockFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace tavrelin {
+
+namespace {
+
+constexpr qsizetype LongestValue = 255;
+constexpr int LockWaitMilliseconds = 3000;
+constexpr QLatin1String DataFolder("C:\\TavrelinData\\");
+
+struct Section {
+  QString name;
+  QList<QPair<QString, QString>> values;
+};
+
+/// All sections in the order in which they sprang up. Names are told apart without regard to case.
+using Sections = QList<Section>;
+
+bool SameName(const QString& a, const QString& b) {
+  return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+// A line holds one value, so what would end or divide the line is written as %XX. Everything else,
+// backslashes and quotes among it, stands as it is and can be read and mended in any editor.
+QString Escaped(const QString& text, const char* marks) {
+  QString out;
+  for (const QChar c : text) {
+    const bool plain = c >= QChar(u' ') && !QLatin1String(marks).contains(c);
+    if (plain) {
+      out += c;
+    } else {
+      out += QStringLiteral("%%1").arg(int(c.unicode()), 2, 16, QLatin1Char('0')).toUpper();
+    }
+  }
+  return out;
+}
+
+QString Unescaped(const QString& text) {
+  QString out;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    bool hex = false;
+    const ushort code = text[i] == u'%' ? text.mid(i + 1, 2).toUShort(&hex, 16) : ushort(0);
+    out += hex ? QChar(code) : text[i];
+    if (hex) i += 2;
+  }
+  return out;
+}
+
+Sections Parse(const QString& text) {
+  Sections sections;
+  for (const QString& line : text.split(QLatin1Char('\n'))) {
+    const qsizetype equals = line.indexOf(QLatin1Char('='));
+    if (line.startsWith(QLatin1Char('[')) && line.endsWith(QLatin1Char(']'))) {
+      sections.append({Unescaped(line.sliced(1, line.size() - 2)), {}});
+    } else if (equals > 0) {
+      if (sections.isEmpty()) sections.append(Section{});
+      sections.last().values.append(
+          {Unescaped(line.first(equals)), Unescaped(line.sliced(equals + 1))});
+    }
+  }
+  return sections;
+}
+
+QByteArray Written(const Sections& sections) {
+  QString text;
+  for (const Section& section : sections) {
+    text += QLatin1Char('[') + Escaped(section.name, "%]") + QLatin1String("]\n");
+    for (const auto& [name, value] : section.values) {
+      text += Escaped(name, "%=[") + QLatin1Char('=') + Escaped(value, "%") + QLatin1Char('\n');
+    }
+  }
+  return text.toUtf8();
+}
+
+/// Nothing when the file is there and cannot be read; no sections when it is not there.
+std::optional<Sections> Load(const QString& path) {
+  QFile file(path);
+  if (!QFileInfo::exists(path)) return Sections{};
+  if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFile::NoError) return std::nullopt;
+  return Parse(QString::fromUtf8(bytes));
+}
+
+const Section* FindSection(const Sections& sections, const QString& name) {
+  for (const Section& section : sections) {
+    if (SameName(section.name, name)) return &section;
+  }
+  return nullptr;
+}
+
+void Put(Sections& sections, const QString& sectionName, const QString& name,
+         const QString& value) {
+  qsizetype at = 0;
+  while (at < sections.size() && !SameName(sections[at].name, sectionName)) ++at;
+  if (at == sections.size()) sections.append({sectionName, {}});
+  for (auto& [oldName, oldValue] : sections[at].values) {
+    if (!SameName(oldName, name)) continue;
+    oldValue = value;
+    return;
+  }
+  sections[at].values.append({name, value});
+}
+
+bool WriteWhole(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) return false;
+  file.write(bytes);
+  return file.commit();
+}
+
+QString Read(const QString& path, const QString& sectionName, const QString& name,
+             const QString& fallback) {
+  const std::optional<Sections> sections = Load(path);
+  if (!sections) return {};
+  const Section* section = FindSection(*sections, sectionName);
+  if (!section) return fallback;
+  for (const auto& [key, value] : section->values) {
+    if (!SameName(key, name)) continue;
+    const QString text = value.left(LongestValue).trimmed();
+    return text.isEmpty() ? fallback : text;
+  }
+  return fallback;
+}
+
+QString PlatformFile() {
+  const QString named = qEnvironmentVariable("TAVRELIN_STORE");
+  if (!named.isEmpty()) return named;
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+         QLatin1String("/Tavrelin/store.ini");
+}
+
+}  // namespace
+
+Store::Store() : Store(PlatformFile()) {}
+
+Store::Store(QString file) : file_(std::move(file)) {}
+
+bool Store::SaveRegistryString(const QString& section, const QString& name, const QString& value) {
+  if (!QDir().mkpath(QFileInfo(file_).absolutePath())) return false;
+  QLockFile lock(file_ + QLatin1String(".lock"));
+  if (!lock.tryLock(LockWaitMilliseconds)) return false;
+  std::optional<Sections> sections = Load(file_);
+  if (!sections) return false;
+  Put(*sections, section, name, value);
+  return WriteWhole(file_, Written(*sections));
+}
+
+QString Store::GetRegistryString(const QString& section, const QString& name,
+                                 const QString& fallback) const {
+  return Read(file_, section, name, fallback);
+}
+
+int Store::RegistryKeyState(const QString& section, const QString&) const {
+  const std::optional<Sections> sections = Load(file_);
+  if (!sections) return 2;
+  const bool exists =
+      section.isEmpty() ? QFileInfo::exists(file_) : FindSection(*sections, section) != nullptr;
+  return exists ? 0 : 1;
+}
+
+QString Store::GetMachineRegistryString(const QString& section, const QString& name,
+                                        const QString& fallback) const {
+  const QString machine = qEnvironmentVariable("TAVRELIN_MACHINE_STORE");
+  return machine.isEmpty() ? fallback : Read(machine, section, name, fallback);
+}
+
+QString Store::GetPath(const QString& name) const {
+  const QString path = GetRegistryString({}, name, DataFolder);
+  return path.contains(QLatin1String("C:\\Program Files")) ? QString(DataFolder) : path;
+}
+
+}  // namespace tavrelin
