@@ -1,0 +1,112 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QList>
+#include <QStringList>
+
+#include "shell/CSError.h"
+#include "shell/Operator.h"
+#include "support/QtPrinters.h"
+
+namespace tavrelin {
+
+/// The person at the keyboard, with answers prepared beforehand. A question nobody prepared an
+/// answer for fails the test and is answered No.
+class FakeOperator : public Operator {
+ public:
+  struct Box {
+    QString title, text;
+  };
+
+  /// Answers the next question, whatever it is; questions() tells afterwards what was asked.
+  void WillAnswer(bool yes) { answers_.append(yes); }
+  /// The file that the next file dialog returns; empty for Cancel.
+  void WillChoose(const QString& file) { files_.append(file); }
+  /// Prepared answers and files that nobody asked for.
+  qsizetype Unused() const { return answers_.size() + files_.size(); }
+
+  QList<Box> questions;  ///< every Yes/No box, in order
+  QList<Box> told;       ///< every box with OK alone, in order
+  QStringList dialogs;   ///< every file dialog as "title|folder or proposal|filter"
+  int beeps = 0;
+  bool busy = false;
+
+  bool Confirm(const QString& title, const QString& text) override {
+    questions.append({title, text});
+    if (!answers_.isEmpty()) return answers_.takeFirst();
+    ADD_FAILURE() << "nobody expected the question " << title.toStdString() << ": "
+                  << text.toStdString();
+    return false;
+  }
+  void Tell(const QString& title, const QString& text) override { told.append({title, text}); }
+  QString OpenFile(const QString& title, const QString& folder, const QString& filter) override {
+    return Choose(title, folder, filter);
+  }
+  QString SaveFile(const QString& title, const QString& proposal, const QString& filter) override {
+    return Choose(title, proposal, filter);
+  }
+  void Beep() override { ++beeps; }
+  void SetBusy(bool on) override { busy = on; }
+
+ private:
+  QString Choose(const QString& title, const QString& where, const QString& filter) {
+    dialogs.append(title + QLatin1Char('|') + where + QLatin1Char('|') + filter);
+    if (!files_.isEmpty()) return files_.takeFirst();
+    ADD_FAILURE() << "nobody expected the file dialog " << title.toStdString();
+    return {};
+  }
+
+  QList<bool> answers_;
+  QStringList files_;
+};
+
+/// Stands still at Saturday, June 14 2025, 9:30 until a test sets it.
+class FakeClock : public Clock {
+ public:
+  QDateTime now{QDate(2025, 6, 14), QTime(9, 30)};
+  QDateTime Now() const override { return now; }
+};
+
+class FakeClipboard : public Clipboard {
+ public:
+  QString text;
+  QString Text() const override { return text; }
+  void SetText(const QString& newText) override { text = newText; }
+};
+
+class FakeBrowser : public Browser {
+ public:
+  QList<QUrl> opened;
+  bool works = true;  ///< what Open answers
+  bool Open(const QUrl& address) override {
+    opened.append(address);
+    return works;
+  }
+};
+
+/// Takes the place of frmError. An error that no test took fails the test when the recorder ends.
+class ErrorRecorder {
+ public:
+  ~ErrorRecorder() {
+    for (const ErrorReport& report : reports_) {
+      ADD_FAILURE() << "an error nobody expected: " << report.description.toStdString() << " ("
+                    << report.number << ") in " << report.callStack.toStdString();
+    }
+  }
+  CSError::Display Display() {
+    return [this](const ErrorReport& report) { reports_.append(report); };
+  }
+  qsizetype Count() const { return reports_.size(); }
+  /// The oldest error shown, which is expected then; an empty one, and a failure, without any.
+  ErrorReport Take() {
+    if (!reports_.isEmpty()) return reports_.takeFirst();
+    ADD_FAILURE() << "no error was shown";
+    return {};
+  }
+
+ private:
+  QList<ErrorReport> reports_;
+};
+
+}  // namespace tavrelin
