@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <variant>
@@ -32,7 +33,7 @@ class Value {
 
   /// The value as Basic's CStr writes it in US form: null is "", yes/no "True" or "False", a number
   /// its shortest decimal form (at most 15 digits, no exponent below 1e15), a date "m/d/yyyy" with
-  /// " h:mm:ss AM" behind it when it is not midnight.
+  /// " h:mm:ss AM" behind it when it is not midnight, a time alone "h:mm:ss AM".
   QString ToText() const;
 
   /// The text without blanks at both ends; null is "".
@@ -44,7 +45,7 @@ class Value {
   double ToNumber() const;
   /// ToNumber, rounded halves to even.
   qint64 ToWhole() const;
-  /// True for yes and for any number but 0; text "True" and "Yes" (any case) likewise.
+  /// True for yes and for any number but 0; text "True", "Yes" (any case), "1" likewise.
   bool ToYesNo() const;
   /// The date, or an invalid one when the value is none.
   QDateTime ToDate() const;
@@ -66,6 +67,10 @@ class Value {
 /// Case is disregarded in every script; an accented letter stands beside its base letter (É after
 /// E, before F) yet is not equal to it. Negative, zero or positive.
 int CompareText(QStringView a, QStringView b);
+
+/// A key whose memcmp order (QByteArray's own <) is that of CompareText: for sorts of many texts,
+/// made once a text. Equal keys are equal texts.
+QByteArray SortKey(QStringView text);
 
 /// LIKE of the data layer: `%` any run of characters, `_` any one character, case disregarded.
 bool LikeText(QStringView text, QStringView pattern);
