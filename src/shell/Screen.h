@@ -63,6 +63,12 @@ class Screen : public QWidget {
   bool Event(const char* procedure, const std::function<void()>& body) {
     return errors_.Run(procedure, body);
   }
+  /// Event, to be handed to a control that raises events of its own (GridEX).
+  std::function<bool(const char*, const std::function<void()>&)> Guard() {
+    return [this](const char* procedure, const std::function<void()>& body) {
+      return Event(procedure, body);
+    };
+  }
 
   /// A refusal in the first panel of stsInfo: beep, icon and text; it stays until the next action.
   void Refuse(const QString& message);

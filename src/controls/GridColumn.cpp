@@ -1,0 +1,40 @@
+#include "controls/GridColumn.h"
+
+namespace tavrelin {
+
+namespace {
+
+QString Lookup(const QString& text) {
+  return text.trimmed().toUpper();
+}
+
+}  // namespace
+
+ValueList::ValueList(std::initializer_list<ValueItem> items) {
+  for (const ValueItem& item : items) Add(item.code, item.text);
+}
+
+void ValueList::Add(const Value& code, const QString& text) {
+  const QString key = Lookup(code.ToText());
+  if (!byCode_.contains(key)) byCode_.insert(key, static_cast<int>(items_.size()));
+  items_.append({code, text});
+}
+
+void ValueList::Clear() {
+  items_.clear();
+  byCode_.clear();
+}
+
+int ValueList::IndexOf(const Value& code) const {
+  return byCode_.isEmpty() ? -1 : byCode_.value(Lookup(code.ToText()), -1);
+}
+
+int ValueList::IndexOfText(const QString& text) const {
+  const QString wanted = Lookup(text);
+  for (int i = 0; i < items_.size(); ++i) {
+    if (Lookup(items_[i].text) == wanted) return i;
+  }
+  return -1;
+}
+
+}  // namespace tavrelin
