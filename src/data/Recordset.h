@@ -10,6 +10,8 @@
 namespace tavrelin {
 
 class Connection;
+class Criterion;
+class ValueIndex;
 
 /// What a column holds. Sizes are characters; a size of 0 is unlimited.
 enum class FieldType { Text, Memo, Short, Long, Single, Double, YesNo, Date, AutoNumber };
@@ -29,9 +31,11 @@ struct Field {
 /// recordset's life and survives Sort, Filter and Requery of the same rows; it is shared with
 /// clones. Field names are case-insensitive. Everything throws Error: NoSuchField, RecordState (no
 /// current row), FieldTooSmall, DataTypeMismatch, Database. A failed Update leaves the edit
-/// pending, so that it can be mended and tried again, or given up by CancelUpdate. The rows are
-/// shared with clones and live as long as the last of them; the connection must outlive every
-/// Update, Delete and Requery.
+/// pending, so that it can be mended and tried again, or given up by CancelUpdate. Leaving a row
+/// with a change pending (any Move, Find, GoTo, SetSort, SetFilter, AddNew) updates it first. A row
+/// keeps its place while it is changed, and a new row stands behind the last, until the next
+/// SetSort, SetFilter or Requery. The rows are shared with clones and live as long as the last of
+/// them; the connection must outlive every Update, Delete and Requery.
 class Recordset {
  public:
   using Bookmark = qint64;
@@ -128,6 +132,17 @@ class Recordset {
  private:
   struct Rows;    // what clones share
   struct Cursor;  // what each has of its own
+
+  Cursor& Here() const;
+  int IndexOrThrow(const QString& field) const;
+  void CheckField(int field) const;
+  void CheckWritable() const;
+  int RowAt(int position) const;
+  void MoveTo(int position);
+  int FindByIndex(const Criterion& wanted, ValueIndex& index, int start);
+  void WriteNewRow();
+  void WriteChanges();
+
   std::shared_ptr<Rows> rows_;
   std::unique_ptr<Cursor> cursor_;
 };
