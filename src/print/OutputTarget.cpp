@@ -1,0 +1,100 @@
+#include "print/OutputTarget.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "print/Fonts.h"
+
+namespace tavrelin {
+
+namespace {
+constexpr int TwipsPerPixel = 15;
+constexpr double SmallestSize = 4;  // points; below that nobody reads a name
+}  // namespace
+
+OutputTarget::OutputTarget(Kind kind) : kind_(kind) {
+  document_.pages.append(Page{});
+}
+
+void OutputTarget::MoveTo(int x, int y) {
+  x_ = x;
+  y_ = y;
+}
+
+int OutputTarget::LineHeight() const {
+  return tavrelin::LineHeight(font_);
+}
+
+int OutputTarget::TextWidth(const QString& text) const {
+  return tavrelin::TextWidth(font_, text);
+}
+
+void OutputTarget::Put(int y, const PageFont& font, const QString& text) {
+  if (!text.isEmpty()) ThisPage().marks.append(TextMark{x_, y, text, font, 0});
+}
+
+void OutputTarget::Print(const QString& text) {
+  Put(y_, font_, text);
+  MoveTo(0, y_ + LineHeight());
+}
+
+void OutputTarget::PrintOn(const QString& text) {
+  Put(y_, font_, text);
+  x_ += TextWidth(text);
+}
+
+void OutputTarget::PrintAt(int x, const QString& text) {
+  x_ = x;
+  PrintOn(text);
+}
+
+void OutputTarget::PrintWithin(int width, const QString& text) {
+  const int wide = TextWidth(text);
+  if (wide <= width) return PrintOn(text);
+  PageFont smaller = font_;
+  smaller.size = std::max(SmallestSize, std::floor(font_.size * width / wide * 10) / 10);
+  Put(y_ + Ascent(font_) - Ascent(smaller), smaller, text);
+  x_ += tavrelin::TextWidth(smaller, text);
+}
+
+void OutputTarget::PrintTurned(int angle, const PageFont& font, const QString& text) {
+  if (!text.isEmpty()) ThisPage().marks.append(TextMark{x_, y_, text, font, angle});
+}
+
+void OutputTarget::Line(int x1, int y1, int x2, int y2) {
+  ThisPage().marks.append(LineMark{x1, y1, x2, y2, drawWidth_ * TwipsPerPixel, false});
+}
+
+void OutputTarget::Box(int x1, int y1, int x2, int y2) {
+  ThisPage().marks.append(LineMark{x1, y1, x2, y2, drawWidth_ * TwipsPerPixel, true});
+}
+
+void OutputTarget::SetOrientation(Orientation orientation) {
+  orientation_ = orientation;
+  if (ThisPage().marks.isEmpty()) ThisPage().orientation = orientation;
+}
+
+void OutputTarget::NewPage() {
+  document_.pages.append(Page{orientation_, {}});
+  MoveTo(0, 0);
+}
+
+void OutputTarget::EndDoc() {
+  if (document_.pages.size() > 1 && ThisPage().marks.isEmpty()) document_.pages.removeLast();
+}
+
+Document OutputTarget::Take() {
+  return std::exchange(*this, OutputTarget(kind_)).document_;
+}
+
+Document Record(OutputTarget::Kind kind, const QString& title, const Report& report) {
+  OutputTarget target(kind);
+  report(target);
+  target.EndDoc();
+  Document document = target.Take();
+  document.title = title;
+  return document;
+}
+
+}  // namespace tavrelin
