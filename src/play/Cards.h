@@ -1,0 +1,69 @@
+#pragma once
+
+#include <optional>
+#include <QList>
+#include <QString>
+
+#include "play/PlayFormat.h"
+
+namespace tavrelin {
+
+struct LoadedClass;
+
+/// The games that a set of cards covers.
+struct GameRange {
+  int from = 1;
+  int to = 0;
+  QString refusal;  ///< "Cannot print more than 11 games on card"; else empty
+};
+
+/// How many games fit on a card; the two cards on a sheet are not held to it.
+enum class CardLimit { ElevenGames, None };
+
+/// The range that the two boxes ask for. A box that holds no number or 0 stands for the first game,
+/// or for the last one of a single round robin of so many entrants.
+GameRange CardGames(const QString& from, const QString& to, int entrants, CardLimit limit);
+
+/// One row of a card.
+struct CardLine {
+  int game = 0;
+  bool bye = false;  ///< the entrant sits this game out; the rest is empty then
+  int opponentNumber = 0;
+  QString opponent;  ///< player or team; empty or "PACER" (see CardSide) for who is not in the file
+  QString court;
+};
+
+/// The scoring card of one entrant.
+struct Card {
+  int number = 0;
+  bool isPacer = false;
+  QList<PersonName> throwers;  ///< the player, or the team's two players
+  QString state;               ///< singles only, as are the next two
+  QString wins;                ///< by the half-win rule
+  QString losses;
+  double average = 0;           ///< entry average, percent
+  std::optional<int> handicap;  ///< nothing in a class without handicap, nor for the singles pacer
+  QList<CardLine> lines;
+};
+
+/// How a card finds its entrant's games: by his ID, an unknown opponent having no name; or by his
+/// number in the class, an unknown opponent being the "PACER".
+enum class CardSide { ByEntrant, ByNumber };
+
+/// The cards of all entrants, the pacer's too, in the order of their numbers, with the games of the
+/// range and a bye for each game number in which the entrant has no game.
+QList<Card> Cards(Connection& connection, const LoadedClass& loaded, const GameRange& range,
+                  CardSide side);
+
+/// One line of the scorekeeper's worksheet. A name that is not in the file stays empty.
+struct WorksheetLine {
+  int game = 0;
+  QString court;
+  QString one;
+  QString two;
+};
+
+/// All games of the class in the order Game, Court; empty when the class has none.
+QList<WorksheetLine> Worksheet(Connection& connection, const LoadedClass& loaded);
+
+}  // namespace tavrelin

@@ -1,0 +1,207 @@
+#include "play/CheckGame.h"
+
+#include <algorithm>
+
+#include "basic/Conversions.h"
+#include "data/Recordset.h"
+#include "play/ClassLoad.h"
+#include "play/Game.h"
+#include "play/PlayFormat.h"
+
+namespace tavrelin {
+namespace {
+
+constexpr int ManyShoes = 199;
+
+/// What one side of a score claims.
+struct Claim {
+  double points;
+  double ringers;
+  double singles;
+
+  double Counted() const { return ringers + singles; }
+  bool TooHigh() const { return points > 3 * ringers + singles; }
+};
+
+Claim ClaimOf(const TypedRow& row, const SideColumns& side) {
+  return {row(side.points).ToNumber(), row(side.ringers[0]).ToNumber(),
+          row(side.singlePoints).ToNumber()};
+}
+
+/// The margin of a game is what the winner's uncancelled ringers and singles give, and no more.
+bool MarginAddsUp(const Claim& one, const Claim& two) {
+  const Claim& winner = one.points > two.points ? one : two;
+  const Claim& other = one.points > two.points ? two : one;
+  return winner.points - other.points - 3 * (winner.ringers - other.ringers) ==
+         winner.singles - other.singles;
+}
+
+/// The two formats count their own figures in their own words.
+struct Figure {
+  QString field;
+  QString message;
+};
+
+QList<Figure> FiguresOf(const PlayFormat& format) {
+  const QString entrant =
+      format.throwers.size() == 1 ? QStringLiteral("player") : QStringLiteral("team");
+  const QString words[] = {QStringLiteral("one"), QStringLiteral("two")};
+  QList<Figure> figures;
+  for (size_t i = 0; i < 2; ++i) {
+    const SideColumns& side = format.sides[i];
+    const QString who = QStringLiteral("Invalid %1 %2 ").arg(entrant, words[i]);
+    figures << Figure{side.points, who + "points"};
+    for (const QString& ringers : side.ringers) {
+      const bool alone = side.ringers.size() == 1;
+      figures << Figure{ringers, alone ? who + "ringers" : QStringLiteral("Invalid ringers")};
+    }
+  }
+  return figures;
+}
+
+/// Walks the checks of one row in their order; each answers false once the row is decided.
+class Checker {
+ public:
+  Checker(const TypedRow& row, const GameContext& context)
+      : row_(row), context_(context), format_(context.rules.Format()) {}
+
+  RowCheck Run() {
+    if (Shoes() && Score() && Sides() && GameNumber() && Court()) Figures();
+    return check_;
+  }
+
+ private:
+  bool Refuse(const QString& message) {
+    check_.Refuse(message);
+    return false;
+  }
+
+  bool Drop(const QString& message) {
+    check_.Drop(message);
+    return false;
+  }
+
+  /// Only singles count shoes and hold a score against them.
+  bool Counts() const { return !format_.sides[0].singlePoints.isEmpty(); }
+
+  bool Shoes() {
+    if (!Counts() || row_(QStringLiteral("Shoes")).ToWhole() <= ManyShoes) return true;
+    if (context_.manyShoes.has_value()) {
+      return *context_.manyShoes || Refuse({});
+    }
+    check_.AskFirst(QStringLiteral("Confirm shoe count"),
+                    QStringLiteral("Shoe count is abnormally high. Continue?"));
+    return false;
+  }
+
+  bool Score() {
+    if (!Counts() || !context_.scoreChecker) return true;
+    const QString wrong = CheckScore(row_, context_.rules.handicapPct);
+    return wrong.isEmpty() || Refuse(wrong);
+  }
+
+  bool Sides() {
+    check_.Fix(QStringLiteral("SanctionID"), context_.rules.sanctionID);
+    check_.Fix(QStringLiteral("ClassID"), context_.rules.classID);
+    const QString entrant = Counts() ? QStringLiteral("Player") : QStringLiteral("Team");
+    for (size_t i = 0; i < 2; ++i) {
+      if (!row_(format_.sides[i].id).Trimmed().isEmpty()) continue;
+      return Drop(QStringLiteral("Invalid %1 %2.").arg(entrant, i == 0 ? u"One" : u"Two"));
+    }
+    return Throwers(format_.sides[0]) && Throwers(format_.sides[1]);
+  }
+
+  /// Choosing a team chooses its players.
+  bool Throwers(const SideColumns& side) {
+    if (side.throwers.first() == side.id) return true;
+    const QString id = row_(side.id).Trimmed();
+    if (format_.IsPacer(id)) {
+      for (int i = 0; i < 2; ++i) check_.Fix(side.throwers[i], format_.pacerThrowers[i]);
+      return true;
+    }
+    const int position = Find(context_.list, format_.entrantID, id);
+    if (position == 0) return Refuse(QStringLiteral("Team not found in entries "));
+    for (int i = 0; i < 2; ++i) {
+      const int field = context_.list.FieldIndex(format_.throwers[i].id);
+      check_.Fix(side.throwers[i], context_.list.CellAt(position, field));
+    }
+    return true;
+  }
+
+  static int Find(const Recordset& rows, const QString& field, const QString& id) {
+    const int index = rows.FieldIndex(field);
+    for (int position = rows.RecordCount(); position > 0; --position) {
+      if (rows.CellAt(position, index).Trimmed() == id) return position;
+    }
+    return 0;
+  }
+
+  bool GameNumber() {
+    return IsNumeric(row_(QStringLiteral("Game"))) || Refuse(QStringLiteral("Invalid game number"));
+  }
+
+  bool Court() {
+    if (row_(QStringLiteral("Court")).Trimmed().isEmpty()) {
+      return Refuse(QStringLiteral("Invalid court"));
+    }
+    if (!context_.newRow || !CourtTaken()) return true;
+    return Refuse(QStringLiteral("Court already in use for this game"));
+  }
+
+  bool CourtTaken() const {
+    const double game = CDbl(row_(QStringLiteral("Game")));
+    const QString court = RightJustifyCourt(row_(QStringLiteral("Court")).ToText());
+    const QList<Game> games = ReadGames(context_.games, format_);
+    return std::any_of(games.begin(), games.end(), [&](const Game& other) {
+      return other.game == game && CompareText(RightJustifyCourt(other.court), court) == 0;
+    });
+  }
+
+  void Figures() {
+    if (!IsFigure(QStringLiteral("Shoes"), QStringLiteral("Invalid shoes"), true)) return;
+    for (const Figure& figure : FiguresOf(format_)) {
+      if (!IsFigure(figure.field, figure.message, format_.forgivesTypingSlips)) return;
+    }
+  }
+
+  /// On a new row an empty figure is 0, and so, with `forgive`, is one that is no number.
+  bool IsFigure(const QString& field, const QString& message, bool forgive) {
+    const Value value = row_(field);
+    if (IsNumeric(value)) return true;
+    if (!context_.newRow || !(forgive || value.Trimmed().isEmpty())) return Refuse(message);
+    check_.Fix(field, 0);
+    return true;
+  }
+
+  const TypedRow& row_;
+  const GameContext& context_;
+  const PlayFormat& format_;
+  RowCheck check_;
+};
+
+}  // namespace
+
+QString CheckScore(const TypedRow& row, double handicapPct) {
+  const auto& sides = SinglesFormat().sides;
+  const QString invalid = QStringLiteral("Score Checker On.  Invalid Score.");
+  if (!IsNumeric(row(sides[0].singlePoints)) || !IsNumeric(row(sides[1].singlePoints))) {
+    return invalid;
+  }
+  const Claim one = ClaimOf(row, sides[0]);
+  const Claim two = ClaimOf(row, sides[1]);
+  const QString tooHigh = QStringLiteral("Invalid Score for player %1.  Point total too high");
+  if (one.TooHigh()) return tooHigh.arg(u"one");
+  if (two.TooHigh()) return tooHigh.arg(u"two");
+  if (!MarginAddsUp(one, two)) return invalid;
+  const double shoes = row(QStringLiteral("Shoes")).ToNumber();
+  if (handicapPct == 0 && (one.Counted() > shoes || two.Counted() > shoes)) {
+    return QStringLiteral("Score Checker On.  Invalid Score.  Check number of shoes.");
+  }
+  return {};
+}
+
+RowCheck CheckGame(const TypedRow& row, const GameContext& context) {
+  return Checker(row, context).Run();
+}
+
+}  // namespace tavrelin

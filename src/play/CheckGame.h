@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <QString>
+
+#include "basic/RowCheck.h"
+
+namespace tavrelin {
+
+struct ClassRules;
+class Recordset;
+
+/// A row of the score grid as the operator typed it: the value of a field by its name.
+using TypedRow = std::function<Value(const QString& field)>;
+
+/// What a game is checked against.
+struct GameContext {
+  const ClassRules& rules;
+  const Recordset& games;  ///< the stored games of the class
+  const Recordset& list;   ///< its entrants, see LoadedClass::list
+  bool newRow = false;
+  bool scoreChecker = false;  ///< singles only: hold the score against the rules of the count
+  std::optional<bool> manyShoes = {};  ///< the answer to the question about more than 199 shoes
+};
+
+/// May this game be saved? Answers with the first thing that is wrong, a question, or nothing; and
+/// with the fields that the row takes: the class's own IDs, zeros for figures left empty on a new
+/// row, the players of a chosen team.
+RowCheck CheckGame(const TypedRow& row, const GameContext& context);
+
+/// The score checker: a ringer is three points and cancels one of the other side, and no shoe can
+/// count twice. The reason when the score cannot be right; empty when it can. In a handicap class
+/// the points do not follow from the shoes, and the shoes are not counted.
+QString CheckScore(const TypedRow& row, double handicapPct);
+
+}  // namespace tavrelin

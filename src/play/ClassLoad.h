@@ -1,0 +1,63 @@
+#pragma once
+
+#include <optional>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "data/Recordset.h"
+#include "play/Game.h"
+
+namespace tavrelin {
+
+class Connection;
+struct PlayFormat;
+
+/// The rules under which a class plays, as its row in TournamentClasses tells them.
+struct ClassRules {
+  QString sanctionID;
+  QString classID;
+  QString name;               ///< may be empty
+  double handicapPct = 0;     ///< 0: a class without handicap
+  int shoes = 0;              ///< shoes a game; 0: no fixed number
+  QString rankMethod;         ///< "P", "R", "H" or "O"
+  QString playFormat;         ///< "S" or "D"
+  bool rankOverride = false;  ///< the places stand as the director set them
+
+  const PlayFormat& Format() const;
+};
+
+/// The class, or nothing when the tournament has none of this ID. IDs are taken trimmed.
+std::optional<ClassRules> FindClass(Connection& connection, const QString& sanctionID,
+                                    const QString& classID);
+
+/// The stored games of a class, in the order Game, Court.
+QList<Game> ReadClassGames(Connection& connection, const ClassRules& rules);
+
+/// A class made ready for play: its games and its numbered entrants. What the screens, the cards
+/// and the command line work on.
+struct LoadedClass {
+  ClassRules rules;
+  /// The stored games in the order Game, Court, with the columns of the score grid; each row can be
+  /// edited. The connection must outlive it.
+  Recordset games;
+  /// The entrants in the order of their numbers, in memory: the fields of PlayFormat::listFields.
+  /// `PlayerNumber` is 1 for the top seed; unseeded entrants follow by entry average, the pacer
+  /// stands last.
+  Recordset list;
+  int entrants = 0;  ///< without the pacer
+  bool hasPacer = false;
+  bool isPaired = false;  ///< games are stored
+  QStringList courts;     ///< for an unpaired class: the numbers from 1, left-justified in three
+  int highestGame = 0;
+  QString refusal;  ///< "No players entered in class", the list being empty then; else empty
+
+  const PlayFormat& Format() const { return rules.Format(); }
+  bool IsOdd() const { return entrants % 2 == 1; }
+};
+
+/// Reads a class. A class is played with a pacer when its games say so, or, while it has none, when
+/// `withPacer` asks for one.
+LoadedClass LoadClass(Connection& connection, const ClassRules& rules, bool withPacer = false);
+
+}  // namespace tavrelin

@@ -1,0 +1,41 @@
+#include "play/Figures.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "basic/Conversions.h"
+#include "basic/Picture.h"
+#include "data/Recordset.h"
+
+namespace tavrelin {
+
+QString HalfWinText(double games) {
+  const bool whole = games == std::floor(games);
+  return Format(games, whole ? QStringLiteral("#0") : QStringLiteral("#0.0"));
+}
+
+double RingerPercentage(double ringers, double shoes) {
+  return shoes > 0 ? ringers * 100 / shoes : 0;
+}
+
+QString OverAverageText(double overAverage) {
+  const bool below = overAverage < 0;
+  return Format(std::abs(overAverage), below ? QStringLiteral("#0.00-") : QStringLiteral("#0.00"));
+}
+
+int HandicapFigure(double best, double average, int shoes, double percent, int throwers) {
+  if (shoes == 0 || percent == 0) return 0;
+  const double points = (best - average) * (shoes * 0.0003 * percent);
+  return static_cast<int>(RoundHalfEven(points * throwers));
+}
+
+double LargestFigure(const Recordset& rows, const QString& field) {
+  const int index = rows.FieldIndex(field);
+  double largest = 0;
+  for (int position = 1; position <= rows.RecordCount(); ++position) {
+    largest = std::max(largest, rows.CellAt(position, index).ToNumber());
+  }
+  return largest;
+}
+
+}  // namespace tavrelin

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+namespace tavrelin {
+
+class Recordset;
+
+/// Wins or losses as every sheet and export shows them: "3" when whole, "3.5" when a tied game left
+/// half a win.
+QString HalfWinText(double games);
+
+/// Ringers of 100 shoes; 0 when no shoe was pitched. Unrounded.
+double RingerPercentage(double ringers, double shoes);
+
+/// A figure over average with two decimals and its minus sign behind it: "1.25", "1.25-".
+QString OverAverageText(double overAverage);
+
+/// Handicap points a game: what an entrant of average `average` gets against the strongest of the
+/// class. A ringer counts three points, so each percent below `best` is worth three hundredths of a
+/// point a shoe, of which `percent` hundredths are given; for each of `throwers` players. Halves
+/// go to the even number. A class without a fixed number of shoes gives none.
+int HandicapFigure(double best, double average, int shoes, double percent, int throwers = 1);
+
+/// The largest value of a percentage column over all rows; 0 when there is none. Leaves the cursor.
+double LargestFigure(const Recordset& rows, const QString& field);
+
+}  // namespace tavrelin

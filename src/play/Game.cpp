@@ -1,0 +1,110 @@
+#include "play/Game.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "data/Recordset.h"
+#include "play/PlayFormat.h"
+
+namespace tavrelin {
+namespace {
+
+/// The places of one side's columns in a recordset; -1 for a column the format lacks.
+struct SideIndex {
+  SideIndex(const Recordset& games, const SideColumns& columns)
+      : id(games.FieldIndex(columns.id)),
+        number(games.FieldIndex(columns.number)),
+        points(games.FieldIndex(columns.points)),
+        forfeit(games.FieldIndex(columns.forfeit)) {
+    for (const QString& name : columns.throwers) throwers << games.FieldIndex(name);
+    for (const QString& name : columns.ringers) ringers << games.FieldIndex(name);
+  }
+
+  int id, number, points, forfeit;
+  QList<int> throwers, ringers;
+};
+
+/// One row of a recordset, read by field place without moving the cursor.
+struct Row {
+  const Recordset& games;
+  int position;
+
+  Value At(int field) const { return field < 0 ? Value() : games.CellAt(position, field); }
+  int Whole(int field) const { return static_cast<int>(At(field).ToWhole()); }
+};
+
+GameSide ReadSide(const Row& row, const SideIndex& index) {
+  GameSide side;
+  side.id = row.At(index.id).Trimmed();
+  side.number = row.Whole(index.number);
+  side.points = row.Whole(index.points);
+  side.forfeit = row.At(index.forfeit).ToYesNo();
+  for (const int field : index.throwers) side.throwers << row.At(field).Trimmed();
+  for (const int field : index.ringers) side.ringers << row.Whole(field);
+  return side;
+}
+
+}  // namespace
+
+int GameSide::Ringers() const {
+  return std::accumulate(ringers.begin(), ringers.end(), 0);
+}
+
+int Game::SideOf(const QString& id) const {
+  if (sides[0].id == id) return 0;
+  return sides[1].id == id ? 1 : -1;
+}
+
+QStringList EntrantsIn(const QList<Game>& games) {
+  QStringList ids;
+  for (const Game& game : games) ids << game.sides[0].id << game.sides[1].id;
+  ids.removeDuplicates();
+  return ids;
+}
+
+QList<Game> ReadGames(const Recordset& games, const PlayFormat& format) {
+  const std::array sides = {SideIndex(games, format.sides[0]), SideIndex(games, format.sides[1])};
+  const int number = games.FieldIndex(QStringLiteral("Game"));
+  const int court = games.FieldIndex(QStringLiteral("Court"));
+  const int shoes = games.FieldIndex(QStringLiteral("Shoes"));
+  const int approved = games.FieldIndex(QStringLiteral("Approved"));
+  QList<Game> all;
+  all.reserve(games.RecordCount());
+  for (int position = 1; position <= games.RecordCount(); ++position) {
+    const Row row{games, position};
+    all.append({row.Whole(number),
+                row.At(court).ToText(),
+                row.Whole(shoes),
+                row.At(approved).ToYesNo(),
+                {ReadSide(row, sides[0]), ReadSide(row, sides[1])}});
+  }
+  return all;
+}
+
+Outcome OutcomeOf(const Game& game, int side, const PlayFormat& format) {
+  const GameSide& own = game.sides[static_cast<size_t>(side)];
+  const GameSide& other = game.sides[static_cast<size_t>(1 - side)];
+  if (own.forfeit || format.IsPacer(own.id)) return Outcome::Loss;
+  if (other.forfeit || format.IsPacer(other.id)) return Outcome::Win;
+  if (own.points == other.points) return Outcome::Tie;
+  return own.points > other.points ? Outcome::Win : Outcome::Loss;
+}
+
+Outcome GameIcon(const Game& game, int side, const PlayFormat& format) {
+  return game.approved ? OutcomeOf(game, side, format) : Outcome::None;
+}
+
+QString RightJustifyCourt(const QString& court) {
+  return court.trimmed().left(3).trimmed().rightJustified(3);
+}
+
+bool ResultsMissing(const QList<Game>& games) {
+  bool sawOpen = false;
+  for (const Game& game : games) {
+    if (game.approved && sawOpen) return true;
+    if (!game.approved) sawOpen = true;
+  }
+  return false;
+}
+
+}  // namespace tavrelin

@@ -1,0 +1,226 @@
+#include "play/PlayFormat.h"
+
+#include <algorithm>
+
+#include "data/Connection.h"
+
+namespace tavrelin {
+namespace {
+
+/// A query for the rows with these IDs; with none it finds no row.
+Recordset RowsByID(Connection& connection, const QString& select, const QString& column,
+                   const QStringList& ids) {
+  QStringList marks(ids.size(), QStringLiteral("?"));
+  QList<Value> values(ids.begin(), ids.end());
+  if (marks.isEmpty()) {
+    marks << QStringLiteral("?");
+    values << Value();
+  }
+  Recordset rows;
+  rows.Open(QStringLiteral("%1 WHERE %2 IN (%3)").arg(select, column, marks.join(u',')), connection,
+            Recordset::Lock::ReadOnly, values);
+  return rows;
+}
+
+QHash<QString, QString> FullNames(Connection& connection, const QStringList& ids) {
+  QHash<QString, QString> names;
+  const QHash<QString, PersonName> people = PlayerNames(connection, ids);
+  for (auto it = people.begin(); it != people.end(); ++it) names[it.key()] = it->Full();
+  return names;
+}
+
+QHash<QString, QString> TeamNames(Connection& connection, const QStringList& ids) {
+  QHash<QString, QString> names;
+  Recordset rows = RowsByID(connection, QStringLiteral("SELECT TeamID, Team FROM Teams"),
+                            QStringLiteral("TeamID"), ids);
+  for (; !rows.AtEnd(); rows.MoveNext()) names[rows.At(0).ToText()] = rows.At(1).Trimmed();
+  return names;
+}
+
+QString Placeholder(int width) {
+  return u'\'' + QString(width, u'x') + u'\'';
+}
+
+QString GamesStatement(const QString& columns, const QString& table) {
+  return QStringLiteral(
+             "SELECT SanctionID, ClassID, Game, Court, Shoes, %1 FROM %2 WHERE SanctionID = ? AND "
+             "ClassID = ? ORDER BY Game, Court")
+      .arg(columns, table);
+}
+
+SideColumns PlayerSide(const QString& side) {
+  return {side + "ID",      side + "Number", side + "Points",   side + "SinglePoints",
+          side + "Forfeit", {side + "ID"},   {side + "Ringers"}};
+}
+
+SideColumns TeamSide(const QString& side) {
+  return {side + "ID",
+          {},
+          side + "Points",
+          {},
+          {},
+          {side + "PlayerOneID", side + "PlayerTwoID"},
+          {side + "PlayerOneRingers", side + "PlayerTwoRingers"}};
+}
+
+ThrowerColumns Partner(const QString& player) {
+  return {player + "ID",        player + "HiGame",   player + "Ringers", player + "Shoes",
+          player + "FirstName", player + "LastName", player + "Name"};
+}
+
+/// The literal 0.0111 only makes the engine give the two computed columns a floating type.
+QString SinglesStandings(const QString& tail) {
+  return QStringLiteral(
+             "SELECT RTRIM(p.FirstName) + ' ' + RTRIM(p.LastName) AS PlayerName, p.PlayerID, "
+             "p.State, p.Category, e.RingerPercent AS EntryAvg, e.TotalWins AS Won, "
+             "e.TotalLosses AS Loss, e.TotalRingers AS Ringers, e.TotalShoes AS Shoes, "
+             "0.0111 AS RingerPercent, 0.0111 AS OverAverage, 0 AS HeadToHead, "
+             "e.TotalPoints AS Points, p.CardNumber as Card, Seed") +
+         tail +
+         QStringLiteral(
+             " FROM TournamentEntrants e, Players p WHERE e.SanctionID = ? AND "
+             "e.ClassID = ? AND e.PlayerID = p.PlayerID");
+}
+
+QString DoublesStandings(const QString& floating) {
+  return QStringLiteral(
+             "SELECT e.PlayerOneID, e.PlayerOneRingers, %1 AS PlayerOneName, e.PlayerTwoID, "
+             "e.PlayerTwoRingers, %1 AS PlayerTwoName, e.TeamID, t.Team, "
+             "e.RingerPercent AS EntryAvg, e.TotalWins AS Won, e.TotalLosses AS Loss, "
+             "e.TotalRingers AS Ringers, e.TotalShoes AS Shoes, e.TotalPoints AS Points, Seed, "
+             "%2 AS RingerPercent, %2 AS OverAverage, 0 AS HeadToHead "
+             "FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? AND e.ClassID = ? AND "
+             "t.TeamID = e.TeamID")
+      .arg(Placeholder(45), floating);
+}
+
+void NameSinglesStatements(PlayFormat& f) {
+  f.gamesStatement = GamesStatement(
+      QStringLiteral(
+          "PlayerOneID, ' ' AS PlayerOneWL, "
+          "PlayerOnePoints, PlayerOneRingers, PlayerTwoID, ' ' AS PlayerTwoWL, PlayerTwoPoints, "
+          "PlayerTwoRingers, PlayerOneNumber, PlayerTwoNumber, PlayerOneSinglePoints, "
+          "PlayerTwoSinglePoints, PlayerOneForfeit, PlayerTwoForfeit, Approved, GameID"),
+      f.gameTable);
+  f.entrantsStatement = QStringLiteral(
+      "SELECT e.PlayerID, e.Seed, e.RingerPercent, p.FirstName, p.LastName, State, e.TotalWins, "
+      "e.TotalLosses, 0 AS PlayerNumber FROM TournamentEntrants e, Players p "
+      "WHERE e.SanctionID = ? AND e.ClassID = ? AND e.PlayerID = p.PlayerID");
+  f.standingsStatement = SinglesStandings(QStringLiteral(", 0 AS Rank, RankOverride AS Override"));
+  f.reportStatement = SinglesStandings({});
+}
+
+void NameDoublesStatements(PlayFormat& f) {
+  f.gamesStatement = GamesStatement(
+      QStringLiteral(
+          "TeamOneID, ' ' AS TeamOneWL, "
+          "TeamOnePoints, TeamOnePlayerOneID, TeamOnePlayerOneRingers, TeamOnePlayerTwoID, "
+          "TeamOnePlayerTwoRingers, TeamTwoID, ' ' AS TeamTwoWL, TeamTwoPoints, "
+          "TeamTwoPlayerOneID, TeamTwoPlayerOneRingers, TeamTwoPlayerTwoID, "
+          "TeamTwoPlayerTwoRingers, Approved"),
+      f.gameTable);
+  f.entrantsStatement =
+      QStringLiteral(
+          "SELECT e.TeamID, e.Seed, e.RingerPercent, t.Team, PlayerOneID, "
+          "%1 AS PlayerOneFirstName, %2 AS PlayerOneLastName, PlayerTwoID, "
+          "%1 AS PlayerTwoFirstName, %2 AS PlayerTwoLastName "
+          "FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? AND e.ClassID = ? AND "
+          "e.TeamID = t.TeamID")
+          .arg(Placeholder(20), Placeholder(25));
+  f.standingsStatement = DoublesStandings(QStringLiteral("0.01"));
+  f.reportStatement = DoublesStandings(QStringLiteral("0.0111"));
+}
+
+PlayFormat MakeSingles() {
+  PlayFormat f;
+  f.code = QStringLiteral("S");
+  f.gameTable = QStringLiteral("TournamentSinglesRR");
+  f.entrantTable = QStringLiteral("TournamentEntrants");
+  f.entrantID = QStringLiteral("PlayerID");
+  f.sides = {PlayerSide(QStringLiteral("PlayerOne")), PlayerSide(QStringLiteral("PlayerTwo"))};
+  f.throwers = {{"PlayerID", "HiGame", {}, {}, "FirstName", "LastName", "PlayerName"}};
+  f.pacerID = "PPPPPP";
+  f.pacerThrowers = {QStringLiteral("PPPPPP")};
+  f.forgivesTypingSlips = true;
+  NameSinglesStatements(f);
+  f.listFields = {{"PlayerID", FieldType::Text, 6},    {"FirstName", FieldType::Text, 20},
+                  {"LastName", FieldType::Text, 25},   {"RingerPercent", FieldType::Single},
+                  {"State", FieldType::Text, 6},       {"TotalWins", FieldType::Text, 4},
+                  {"TotalLosses", FieldType::Text, 4}, {"PlayerNumber", FieldType::Long}};
+  f.pacerRow = {{"PlayerID", f.pacerID}, {"FirstName", "PACER"}, {"LastName", " "}};
+  f.namesInStatement = true;
+  f.hasOverride = true;
+  f.standingsName = QStringLiteral("PlayerName");
+  f.standingsRingers = {QStringLiteral("Ringers")};
+  f.ringerOrder = {"Won DESC, Loss ASC, RingerPercent DESC, HeadToHead DESC, OverAverage DESC",
+                   "(Rank: W/L - Rgr% - H2H - OvrAvg)"};
+  f.entrantNames = FullNames;
+  return f;
+}
+
+PlayFormat MakeDoubles() {
+  PlayFormat f;
+  f.code = QStringLiteral("D");
+  f.gameTable = QStringLiteral("TournamentDoublesRR");
+  f.entrantTable = QStringLiteral("TournamentTeamEntrants");
+  f.entrantID = QStringLiteral("TeamID");
+  f.sides = {TeamSide(QStringLiteral("TeamOne")), TeamSide(QStringLiteral("TeamTwo"))};
+  f.throwers = {Partner(QStringLiteral("PlayerOne")), Partner(QStringLiteral("PlayerTwo"))};
+  f.pacerID = 0;
+  f.pacerThrowers = {QStringLiteral("PPPPP1"), QStringLiteral("PPPPP2")};
+  NameDoublesStatements(f);
+  f.listFields = {{"TeamID", FieldType::Long},
+                  {"Team", FieldType::Text, 50},
+                  {"RingerPercent", FieldType::Single},
+                  {"PlayerOneID", FieldType::Text, 6},
+                  {"PlayerOneFirstName", FieldType::Text, 20},
+                  {"PlayerOneLastName", FieldType::Text, 25},
+                  {"PlayerTwoID", FieldType::Text, 6},
+                  {"PlayerTwoFirstName", FieldType::Text, 20},
+                  {"PlayerTwoLastName", FieldType::Text, 25},
+                  {"PlayerNumber", FieldType::Long}};
+  f.pacerRow = {{"TeamID", f.pacerID},
+                {"Team", "PACER"},
+                {"PlayerOneID", "PPPPP1"},
+                {"PlayerOneFirstName", "PACER 1"},
+                {"PlayerOneLastName", " "},
+                {"PlayerTwoID", "PPPPP2"},
+                {"PlayerTwoFirstName", "PACER 2"},
+                {"PlayerTwoLastName", " "}};
+  f.pacerHasHandicap = true;
+  f.standingsName = QStringLiteral("Team");
+  f.standingsRingers = {QStringLiteral("PlayerOneRingers"), QStringLiteral("PlayerTwoRingers")};
+  f.ringerOrder = {"Won DESC, Loss ASC, RingerPercent DESC, HeadToHead DESC, Points DESC",
+                   "(Rank: W/L - Rgr% - H2H - Pts)"};
+  f.entrantNames = TeamNames;
+  return f;
+}
+
+}  // namespace
+
+const PlayFormat& SinglesFormat() {
+  static const PlayFormat format = MakeSingles();
+  return format;
+}
+
+const PlayFormat& DoublesFormat() {
+  static const PlayFormat format = MakeDoubles();
+  return format;
+}
+
+const PlayFormat& FormatOf(const QString& code) {
+  return code.trimmed().compare(u"D", Qt::CaseInsensitive) == 0 ? DoublesFormat() : SinglesFormat();
+}
+
+QHash<QString, PersonName> PlayerNames(Connection& connection, const QStringList& ids) {
+  QHash<QString, PersonName> names;
+  Recordset rows =
+      RowsByID(connection, QStringLiteral("SELECT PlayerID, FirstName, LastName FROM Players"),
+               QStringLiteral("PlayerID"), ids);
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    names[rows.At(0).ToText()] = {rows.At(1).Trimmed(), rows.At(2).Trimmed()};
+  }
+  return names;
+}
+
+}  // namespace tavrelin

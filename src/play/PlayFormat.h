@@ -1,0 +1,92 @@
+#pragma once
+
+#include <array>
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "basic/Value.h"
+#include "data/Recordset.h"
+
+namespace tavrelin {
+
+class Connection;
+
+/// The columns of one side of a stored game. An empty name: the format has no such column.
+struct SideColumns {
+  QString id;      ///< the entrant: a player's or a team's number
+  QString number;  ///< the entrant's number in the class
+  QString points;
+  QString singlePoints;  ///< points from shoes in count that are no ringers
+  QString forfeit;
+  QStringList throwers;  ///< the player or players who throw for the side
+  QStringList ringers;   ///< one for each thrower
+};
+
+/// The columns of one thrower in an entry and in the lists made from it.
+struct ThrowerColumns {
+  QString id;
+  QString hiGame;   ///< best ringer percentage of a single game
+  QString ringers;  ///< the thrower's share in the entry; empty when he throws alone
+  QString shoes;
+  QString firstName;  ///< in the class list
+  QString lastName;
+  QString fullName;  ///< in the standings
+};
+
+/// An order of the standings and how paper names it.
+struct RankOrder {
+  QString sort;
+  QString basis;
+};
+
+/// All in which singles and doubles differ. The rules of play are written once, over these columns:
+/// a singles entrant is a side with one thrower, a team one with two.
+struct PlayFormat {
+  QString code;  ///< "S" or "D", as a class stores it
+  QString gameTable;
+  QString entrantTable;
+  QString entrantID;  ///< "PlayerID" or "TeamID"
+  std::array<SideColumns, 2> sides;
+  QList<ThrowerColumns> throwers;    ///< in playing order
+  Value pacerID;                     ///< stands in a game for the pacer
+  QStringList pacerThrowers;         ///< and for the pacer's players
+  bool forgivesTypingSlips = false;  ///< a new game takes 0 for a figure that is no number
+
+  QString gamesStatement;                 ///< takes sanction and class; ordered by Game, Court
+  QString entrantsStatement;              ///< takes sanction and class
+  QString standingsStatement;             ///< takes sanction and class
+  QString reportStatement;                ///< the standings as the after-play reports read them
+  QList<Field> listFields;                ///< of the class list, with "PlayerNumber" last
+  QList<QPair<QString, Value>> pacerRow;  ///< the pacer as the class list shows it
+  bool namesInStatement = false;          ///< the throwers' names come with the statements above
+
+  QString standingsName;          ///< the entrant's name in a row of the standings
+  QStringList standingsRingers;   ///< ringers by thrower in a row of the standings
+  bool hasOverride = false;       ///< the director may set the places by hand
+  bool pacerHasHandicap = false;  ///< on the pacer's card
+  RankOrder ringerOrder;          ///< ringer percentage as tie-breaker, without handicap
+
+  /// The names of these entrants by ID, in one query: players as "First Last", teams by their team
+  /// name. Who is not in the file, the pacer above all, is not in the answer.
+  QHash<QString, QString> (*entrantNames)(Connection& connection, const QStringList& ids);
+
+  bool IsPacer(const QString& id) const { return id == pacerID.ToText(); }
+};
+
+const PlayFormat& SinglesFormat();
+const PlayFormat& DoublesFormat();
+/// By a class's PlayFormat: "D" is doubles, anything else singles.
+const PlayFormat& FormatOf(const QString& code);
+
+struct PersonName {
+  QString first;
+  QString last;
+  QString Full() const { return (first + u' ' + last).trimmed(); }
+};
+
+/// First and last names by PlayerID, in one query.
+QHash<QString, PersonName> PlayerNames(Connection& connection, const QStringList& ids);
+
+}  // namespace tavrelin

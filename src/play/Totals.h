@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include "play/Game.h"
+
+namespace tavrelin {
+
+class Connection;
+struct ClassRules;
+
+/// What one entrant's approved games add up to.
+struct Totals {
+  int shoes = 0;  ///< of all throwers of the side
+  int ringers = 0;
+  int points = 0;
+  float wins = 0;  ///< halves occur
+  float losses = 0;
+  int throwerShoes = 0;       ///< of one thrower
+  QList<int> throwerRingers;  ///< by thrower
+};
+
+/// Totals by entrant. A game forfeited adds a loss and nothing else; the pacer has none.
+QHash<QString, Totals> AddUp(const QList<Game>& games, const PlayFormat& format);
+
+/// Best ringer percentage of a single approved game, by player, for throwers in one place of the
+/// side (0, or 1 for the second partner).
+QHash<QString, float> HighGames(const QList<Game>& games, qsizetype thrower);
+
+/// Stores the totals of every entry of the class, zeros where no game counts, and raises the high
+/// games. One statement an entry; call it in a Batch.
+void WriteTotals(Connection& connection, const ClassRules& rules, const QList<Game>& games);
+
+}  // namespace tavrelin
