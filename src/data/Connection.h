@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include "basic/PlatformPath.h"
 #include "basic/Value.h"
 
 struct sqlite3;
@@ -81,11 +82,6 @@ class Batch {
   bool open_ = true;
   int exceptions_;
 };
-
-/// The platform's path for a path as the store and the boxes keep it: on Linux and macOS
-/// "C:\TavrelinData\" is the user's TavrelinData folder and `\` separates; a path of the platform
-/// goes through unchanged.
-QString PlatformPath(const QString& path);
 
 /// The rule that turns a club file's path into a connection text: ".mdb" anywhere, else ".accdb",
 /// else the data source "Tavrelin". Case counts.
