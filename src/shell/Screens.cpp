@@ -1,0 +1,53 @@
+#include "shell/Screens.h"
+
+#include "shell/EmptyScreen.h"
+
+namespace tavrelin {
+
+namespace {
+
+template <class ScreenClass>
+MakeScreen Make() {
+  return [](const Surroundings& surroundings, QWidget* parent) -> Screen* {
+    return new ScreenClass(surroundings, parent);
+  };
+}
+
+/// A screen that this program does not have: a panel that says so.
+MakeScreen Without(const char* name, const char* title) {
+  return [name, title](const Surroundings& surroundings, QWidget* parent) -> Screen* {
+    return new EmptyScreen(QLatin1String(name), QLatin1String(title), surroundings, parent);
+  };
+}
+
+}  // namespace
+
+const QList<MakeScreen>& AllScreens() {
+  static const QList<MakeScreen> screens = {
+      Without("uctProfile", "Player Profile"),
+      Without("uctScores", "Player Stats"),
+      Without("uctTournaments", "Tournament Setup"),
+      Without("uctETally", "eTally"),
+      Without("uctImport", "Import"),
+      Without("uctExport", "Export"),
+      Without("uctEntrants", "Tournament Entries"),
+      Without("uctPlayTime", "Play Singles"),
+      Without("uctPlayTimeTeams", "Play Doubles"),
+      Without("uctPlayerReports", "Player Reports"),
+      Without("uctAfterPlay", "Tournament Reports"),
+      Without("uctLabelList", "Label Lists"),
+      Without("uctLabels", "Labels"),
+      Without("uctInvitation", "Invitation"),
+      Without("uctTournamentCleanup", "Tournament Clean Up"),
+      Without("uctLeagues", "League Setup"),
+      Without("uctLeagueScores", "League Scores"),
+      Without("uctLeagueReports", "League Reports"),
+      Without("uctTransmittal", "Membership Transmittal"),
+      Without("uctTeam", "Teams"),
+      Without("uctDatabase", "Setup Database"),
+      Without("uctSettings", "Settings"),
+  };
+  return screens;
+}
+
+}  // namespace tavrelin
