@@ -34,6 +34,7 @@ inline constexpr int Subscript = 9;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int File = 75;
 inline constexpr int NoObject = 91;         ///< an object that an operation needs was not set
+inline constexpr int Printer = 482;         ///< the printer failed or took no document
 inline constexpr int RecordState = 3021;    ///< no current record, or the recordset is closed
 inline constexpr int NoSuchField = 3265;    ///< a field that the recordset does not have
 inline constexpr int FieldTooSmall = 3163;  ///< a text or number its column cannot hold

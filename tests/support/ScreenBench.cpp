@@ -29,8 +29,7 @@ ScreenBench::~ScreenBench() {
 }
 
 Surroundings ScreenBench::around() {
-  return {person,          clock, clipboard, browser, *store_, reinterpret_cast<Printer&>(printer_),
-          errors.Display()};
+  return {person, clock, clipboard, browser, *store_, printer, errors.Display()};
 }
 
 QWidget* ScreenBench::Host() {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstddef>
 #include <memory>
 #include <QTemporaryDir>
 #include <QWidget>
 
 #include "shell/Screen.h"
 #include "shell/Store.h"
+#include "support/FakePrinter.h"
 #include "support/FakeSurroundings.h"
 
 namespace tavrelin {
@@ -29,6 +29,7 @@ class ScreenBench {
   FakeClock clock;
   FakeClipboard clipboard;
   FakeBrowser browser;
+  FakePrinter printer;
   ErrorRecorder errors;
 
   Store& store() { return *store_; }
@@ -88,8 +89,6 @@ class ScreenBench {
   QWidget& FindWidget(const QString& name);
   [[noreturn]] static void Fail(const QString& why);
 
-  // Screens hold on to a printer from the start; here none is ever printed on.
-  alignas(std::max_align_t) std::byte printer_[64] = {};
   QTemporaryDir folder_;
   std::unique_ptr<Store> store_;
   std::unique_ptr<QWidget> host_;
