@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "basic/Picture.h"
+#include "play/Figures.h"
 #include "print/OutputTarget.h"
 
 namespace tavrelin {
@@ -28,15 +29,12 @@ Cell NumberCell(const Value& number, const QString& picture) {
 }
 
 Cell HalfWinCell(double games) {
-  return NumberCell(games,
-                    games == std::trunc(games) ? QStringLiteral("#0") : QStringLiteral("#0.0"));
+  const QString text = HalfWinText(games);
+  return {text, text.contains(QLatin1Char('.')) ? 4 : 2};
 }
 
 Cell OverAverageCell(double figure) {
-  const double magnitude = std::abs(figure);
-  const QString plain = Format(magnitude, QStringLiteral("#0.00"));
-  const int width = static_cast<int>(plain.trimmed().size());
-  return {figure < 0 ? Format(magnitude, QStringLiteral("#0.00-")) : plain, width};
+  return {OverAverageText(figure), static_cast<int>(OverAverageText(std::abs(figure)).size())};
 }
 
 int CellX(int base, const Cell& cell, int step) {

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QWheelEvent>
 
 #include "basic/Conversions.h"
@@ -69,45 +70,58 @@ QScrollBar* frmReport::Bar(const QString& name, Qt::Orientation orientation) {
   return bar;
 }
 
-QPushButton* frmReport::Tool(const QString& name, const QString& text, const QString& tip) {
-  auto* button = new QPushButton(text, tools_);
+QAbstractButton* frmReport::Tool(QAbstractButton* button, const QString& name, const QString& text,
+                                 const QString& tip) {
   button->setObjectName(name);
+  button->setText(text);
   button->setToolTip(tip);
   button->setAccessibleName(tip);
-  button->setAutoDefault(false);
-  if (text.size() == 1) button->setFixedWidth(button->sizeHint().height());
   tools_->layout()->addWidget(button);
   return button;
+}
+
+QAbstractButton* frmReport::WordTool(const QString& name, const QString& text, const QString& tip) {
+  auto* button = new QPushButton(tools_);
+  button->setAutoDefault(false);
+  return Tool(button, name, text, tip);
+}
+
+QAbstractButton* frmReport::SignTool(const QString& name, const QString& text, const QString& tip) {
+  auto* button = new QToolButton(tools_);
+  button->setFocusPolicy(Qt::TabFocus);
+  return Tool(button, name, text, tip);
 }
 
 void frmReport::BuildTools() {
   auto* row = new QHBoxLayout(tools_);
   row->setContentsMargins(8, 8, 8, 8);
   row->setSpacing(8);
-  const auto on = [this](QPushButton* button, auto action) {
-    connect(button, &QPushButton::clicked, this, action);
+  const auto on = [this](QAbstractButton* button, auto action) {
+    connect(button, &QAbstractButton::clicked, this, action);
   };
-  on(Tool(QStringLiteral("cmdPrint"), tr("&Print"), tr("Print the report")),
+  on(WordTool(QStringLiteral("cmdPrint"), tr("&Print"), tr("Print the report")),
      [this] { Run(actions_.print); });
-  on(Tool(QStringLiteral("cmdSavePdf"), tr("&Save as PDF..."), tr("Save the report as a PDF file")),
+  on(WordTool(QStringLiteral("cmdSavePdf"), tr("&Save as PDF..."),
+              tr("Save the report as a PDF file")),
      [this] { Run(actions_.saveAsPdf); });
   row->addStretch(1);
   page_ = new QLabel(tools_);
   page_->setObjectName(QStringLiteral("lblPage"));
   row->addWidget(page_);
   row->addStretch(1);
-  on(Tool(QStringLiteral("cmdZoomOut"), QStringLiteral("\u2212"), tr("Smaller")),
+  on(SignTool(QStringLiteral("cmdZoomOut"), QStringLiteral("\u2212"), tr("Smaller")),
      [this] { SetZoom(Zoom() / ZoomStep); });
   zoom_ = new QLabel(tools_);
   zoom_->setObjectName(QStringLiteral("lblZoom"));
   zoom_->setMinimumWidth(zoom_->fontMetrics().horizontalAdvance(QStringLiteral("400%")));
   zoom_->setAlignment(Qt::AlignCenter);
   row->addWidget(zoom_);
-  on(Tool(QStringLiteral("cmdZoomIn"), QStringLiteral("+"), tr("Larger")),
+  on(SignTool(QStringLiteral("cmdZoomIn"), QStringLiteral("+"), tr("Larger")),
      [this] { SetZoom(Zoom() * ZoomStep); });
-  on(Tool(QStringLiteral("cmdFitWidth"), tr("Fit &Width"), tr("Fit the page to the window")),
+  on(WordTool(QStringLiteral("cmdFitWidth"), tr("Fit &Width"), tr("Fit the page to the window")),
      [this] { FitWidth(); });
-  on(Tool(QStringLiteral("cmdClose"), tr("&Close"), tr("Close the preview")), [this] { reject(); });
+  on(WordTool(QStringLiteral("cmdClose"), tr("&Close"), tr("Close the preview")),
+     [this] { reject(); });
 }
 
 void frmReport::SetPagePortrait() {

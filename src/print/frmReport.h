@@ -6,10 +6,9 @@
 
 #include "print/OutputTarget.h"
 
+class QAbstractButton;
 class QLabel;
-class QPushButton;
 class QScrollBar;
-class QToolButton;
 
 namespace tavrelin {
 
@@ -65,7 +64,10 @@ class frmReport : public QDialog {
   void HScroll1_Change();
 
   void BuildTools();
-  QPushButton* Tool(const QString& name, const QString& text, const QString& tip);
+  QAbstractButton* Tool(QAbstractButton* button, const QString& name, const QString& text,
+                        const QString& tip);
+  QAbstractButton* WordTool(const QString& name, const QString& text, const QString& tip);
+  QAbstractButton* SignTool(const QString& name, const QString& text, const QString& tip);
   QScrollBar* Bar(const QString& name, Qt::Orientation orientation);
   bool Scroll(int key);
   void Run(const std::function<QString()>& action);
