@@ -11,12 +11,13 @@ namespace tavrelin {
 // it cannot read and Error(Overflow) on what does not fit.
 
 /// True for numbers, dates excluded, and for texts that read as one ("12", " -1.5 ", "1,234", "$5",
-/// "1e3", "(5)"). Empty text, blanks and null are not numeric.
+/// "1e3", "(5)", "5-"). Empty text, blanks and null are not numeric.
 bool IsNumeric(const Value& value);
 
 /// True for dates and for texts that read as one: "m/d/yyyy", "m/d/yy" (00-29 is 20xx), "m-d-yyyy",
-/// "yyyy-mm-dd", "d-MMM-yyyy", "MMM d, yyyy", "h:mm", "h:mm:ss", "h:mm AM", or date and time joined
-/// by a blank.
+/// "yyyy-mm-dd", "d-MMM-yyyy", "MMM d, yyyy", "h:mm", "h:mm:ss", "h:mm AM", "h AM", or date and
+/// time joined by a blank. A first number above 12 is the day: "13/1/2024" is January 13. Numbers
+/// are no dates here, though CDate reads them as serial days.
 bool IsDate(const Value& value);
 
 /// The leading number of a text, blanks skipped; 0 when there is none. Never fails. "12abc" is 12.

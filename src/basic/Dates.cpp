@@ -68,6 +68,26 @@ QTime Clock(int hour, int minute, int second, const QString& half) {
   return QTime(hour % 12 + afternoon, minute, second);
 }
 
+// The number of `size` digits at `at`, or -1.
+int DigitsAt(QStringView text, qsizetype at, qsizetype size) {
+  int number = 0;
+  for (const QChar c : text.sliced(at, size)) {
+    if (c < u'0' || c > u'9') return -1;
+    number = number * 10 + (c.unicode() - u'0');
+  }
+  return number;
+}
+
+// The form in which the file stores dates, read without patterns: a club has thousands of them.
+QDateTime ReadStored(QStringView text) {
+  const bool isStored = text.size() == 19 && text.at(4) == u'-' && text.at(7) == u'-' &&
+                        text.at(10) == u' ' && text.at(13) == u':' && text.at(16) == u':';
+  if (!isStored) return {};
+  const QDate day = Day(DigitsAt(text, 0, 4), DigitsAt(text, 5, 2), DigitsAt(text, 8, 2));
+  const QTime time(DigitsAt(text, 11, 2), DigitsAt(text, 14, 2), DigitsAt(text, 17, 2));
+  return day.isValid() && time.isValid() ? QDateTime(day, time) : QDateTime();
+}
+
 }  // namespace
 
 QDate ZeroDay() {
@@ -100,6 +120,7 @@ QString DayName(int dayOfWeek) {
 std::optional<QDateTime> ReadDate(QStringView text) {
   static const auto timed = Pattern(
       R"((?:(?<day>.*\S) +)?(?<h>\d{1,2})(?::(?<m>\d{1,2})(?::(?<s>\d{1,2}))? *(?<half>[ap]m)?| *(?<half2>[ap]m)))");
+  if (const QDateTime stored = ReadStored(text); stored.isValid()) return stored;
   const QString whole = text.trimmed().toString();
   QDate day = ReadDay(whole);
   QTime time(0, 0);

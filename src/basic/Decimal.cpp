@@ -53,21 +53,22 @@ void Decimal::DropTrailingZeros() {
   if (digits_.isEmpty()) point_ = 0;
 }
 
+void Decimal::CarryOne() {
+  while (digits_.endsWith('9')) digits_.chop(1);
+  if (digits_.isEmpty()) {
+    digits_ = "1";  // 0.996 to two places: a digit more in front
+    ++point_;
+  } else {
+    digits_.back() = static_cast<char>(digits_.back() + 1);
+  }
+}
+
 void Decimal::RoundTo(int places) {
   const int kept = point_ + places;
   if (kept >= digits_.size()) return;
   const bool up = kept >= 0 && digits_.at(kept) >= '5';
   digits_.truncate(std::max(kept, 0));
-  if (up) {
-    while (digits_.endsWith('9')) digits_.chop(1);
-    if (digits_.isEmpty()) {
-      digits_ = "1";
-      ++point_;
-      // 0.996 to two places: every digit carried over, or none stood before the rounded place.
-    } else {
-      digits_.back() = static_cast<char>(digits_.back() + 1);
-    }
-  }
+  if (up) CarryOne();
   DropTrailingZeros();
 }
 

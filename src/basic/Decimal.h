@@ -25,6 +25,7 @@ class Decimal {
 
  private:
   void DropTrailingZeros();
+  void CarryOne();  ///< adds one to the last digit that is kept
 
   bool negative_ = false;
   QByteArray digits_;  ///< without leading and trailing zeros; zero has none
