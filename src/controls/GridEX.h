@@ -9,6 +9,8 @@
 #include "controls/GridSort.h"
 #include "data/Recordset.h"
 
+class QAbstractItemView;
+
 namespace tavrelin {
 
 class GridCore;
@@ -158,9 +160,9 @@ class GridEX : public QWidget {
   /// the number or date in it, where the column says so); the cursor stays on its row.
   /// Forgets the keys; the rows stay as they lie.
   void ClearSortKeys();
-  void SetSortKeys(const QList<SortKey>& keys);
+  void SetSortKeys(const QList<GridSortKey>& keys);
   void AddSortKey(const QString& key, SortOrder order = SortOrder::Ascending);
-  const QList<SortKey>& SortKeys() const;
+  const QList<GridSortKey>& SortKeys() const;
   /// The order a header click asks for: descending when the column is the ascending first key, else
   /// ascending.
   SortOrder NextOrder(const QString& key) const;
@@ -185,11 +187,13 @@ class GridEX : public QWidget {
   /// The current row or what is in it changed; for the footers of the grid itself.
   void CurrentChanged();
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
+  struct Widgets;
+  void UseView(QAbstractItemView* view);
+  void Change(const QString& key, const std::function<void(GridColumn&)>& change);
+
   std::unique_ptr<GridCore> core_;
+  std::unique_ptr<Widgets> widgets_;
 };
 
 }  // namespace tavrelin

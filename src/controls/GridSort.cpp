@@ -42,9 +42,31 @@ SortedField Fetch(const Recordset& recordset, const ColumnOrder& key) {
   return sorted;
 }
 
-std::vector<int> OrderOf(const Recordset& recordset, const QList<ColumnOrder>& keys) {
+QList<ColumnOrder> Present(const Recordset& recordset, QList<ColumnOrder> keys) {
+  keys.removeIf([&](const ColumnOrder& key) { return recordset.FieldIndex(key.column.field) < 0; });
+  return keys;
+}
+
+}  // namespace
+
+QString SortText(const Recordset& recordset, const QList<ColumnOrder>& keys) {
+  QStringList sort;
+  for (const ColumnOrder& key : Present(recordset, keys)) {
+    const bool up = key.order == SortOrder::Ascending;
+    sort.append(key.column.field + (up ? QStringLiteral(" ASC") : QStringLiteral(" DESC")));
+  }
+  return sort.join(QStringLiteral(", "));
+}
+
+std::vector<int> OrderBeyondFields(const Recordset& recordset, const QList<ColumnOrder>& keys) {
+  const QList<ColumnOrder> present = Present(recordset, keys);
+  const bool needed = std::any_of(present.begin(), present.end(), [&](const ColumnOrder& key) {
+    const Field& field = recordset.Fields()[recordset.FieldIndex(key.column.field)];
+    return key.column.sort != SortKind::Text && IsText(field.type);
+  });
+  if (!needed) return {};
   std::vector<SortedField> fields;
-  for (const ColumnOrder& key : keys) fields.push_back(Fetch(recordset, key));
+  for (const ColumnOrder& key : present) fields.push_back(Fetch(recordset, key));
   std::vector<int> order(static_cast<size_t>(recordset.RecordCount()));
   std::iota(order.begin(), order.end(), 1);
   std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
@@ -56,27 +78,6 @@ std::vector<int> OrderOf(const Recordset& recordset, const QList<ColumnOrder>& k
     return false;
   });
   return order;
-}
-
-}  // namespace
-
-std::vector<int> SortRecordset(Recordset& recordset, const QList<ColumnOrder>& keys) {
-  QList<ColumnOrder> present;
-  QStringList sort;
-  bool asRecordset = true;
-  for (const ColumnOrder& key : keys) {
-    const int field = recordset.FieldIndex(key.column.field);
-    if (field < 0) continue;
-    present.append(key);
-    const bool text = IsText(recordset.Fields()[field].type);
-    if (text && key.column.sort != SortKind::Text) asRecordset = false;
-    sort.append(key.column.field + (key.order == SortOrder::Ascending ? QStringLiteral(" ASC")
-                                                                      : QStringLiteral(" DESC")));
-  }
-  if (present.isEmpty()) return {};
-  const QString text = sort.join(QStringLiteral(", "));
-  if (recordset.Sort() != text) recordset.SetSort(text);
-  return asRecordset ? std::vector<int>() : OrderOf(recordset, present);
 }
 
 }  // namespace tavrelin

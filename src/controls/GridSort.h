@@ -12,7 +12,7 @@ class Recordset;
 
 enum class SortOrder { Ascending = 1, Descending = -1 };
 
-struct SortKey {
+struct GridSortKey {
   QString column;  ///< key of a column
   SortOrder order = SortOrder::Ascending;
 };
@@ -23,10 +23,12 @@ struct ColumnOrder {
   SortOrder order = SortOrder::Ascending;
 };
 
-/// Sorts a recordset by its fields, in the order of the keys; keys on fields it does not have are
-/// passed over, and without any key its order stays. Where a column sorts as number or date while
-/// its field is text, the recordset's own sort cannot serve: then the answer lists its positions in
-/// the order to show; empty means the recordset's order.
-std::vector<int> SortRecordset(Recordset& recordset, const QList<ColumnOrder>& keys);
+/// The recordset's own sort for these keys, "Field ASC, Other DESC"; fields that it does not have
+/// are passed over.
+QString SortText(const Recordset& recordset, const QList<ColumnOrder>& keys);
+
+/// The positions of a recordset in the order to show, where a column sorts as number or date while
+/// its field is text, so that the recordset's own sort cannot serve; empty otherwise.
+std::vector<int> OrderBeyondFields(const Recordset& recordset, const QList<ColumnOrder>& keys);
 
 }  // namespace tavrelin
