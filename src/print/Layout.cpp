@@ -11,7 +11,7 @@ namespace tavrelin {
 
 namespace {
 
-constexpr int Gap = 60;  // between a text and the column to its right
+constexpr int Gap = 40;  // between a name and the column to its right
 
 int RoomAfter(const QList<Column>& columns, qsizetype index) {
   if (index + 1 >= columns.size()) return std::numeric_limits<int>::max();
@@ -21,7 +21,11 @@ int RoomAfter(const QList<Column>& columns, qsizetype index) {
 }  // namespace
 
 Cell TextCell(const QString& text) {
-  return {text, 0};
+  return {text};
+}
+
+Cell NameCell(const QString& name) {
+  return {name, 0, true};
 }
 
 Cell NumberCell(const Value& number, const QString& picture) {
@@ -61,7 +65,7 @@ void PrintRow(OutputTarget& target, const QList<Column>& columns, const QList<Ce
   const qsizetype count = std::min(columns.size(), cells.size());
   for (qsizetype i = 0; i < count; ++i) {
     target.SetCurrentX(CellX(columns[i].cellX + offset, cells[i], step));
-    if (cells[i].width == 0) {
+    if (cells[i].shrinks) {
       target.PrintWithin(RoomAfter(columns, i), cells[i].text);
     } else {
       target.PrintOn(cells[i].text);

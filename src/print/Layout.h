@@ -18,9 +18,12 @@ class OutputTarget;
 struct Cell {
   QString text;
   int width = 0;
+  bool shrinks = false;  ///< made smaller where it would run into the next column
 };
 
 Cell TextCell(const QString& text);
+/// A name: people's names can be longer than the room a sheet has for them.
+Cell NameCell(const QString& name);
 /// A number through a picture; the picture's length is the cell's width. Null leaves it empty.
 Cell NumberCell(const Value& number, const QString& picture);
 /// Games won or lost: "3" in 2 characters, "3.5" in 4, as a tie is half a win.
@@ -46,8 +49,7 @@ struct Column {
 
 /// The headings underlined on the present line, all X moved by `offset`; the line is not ended.
 void PrintHeadings(OutputTarget& target, const QList<Column>& columns, int offset = 0);
-/// One row on the present line, a cell a column; the line is not ended. A text too wide for the
-/// room before the next column's heading or cell is made smaller.
+/// One row on the present line, a cell a column; the line is not ended.
 void PrintRow(OutputTarget& target, const QList<Column>& columns, const QList<Cell>& cells,
               int step, int offset = 0);
 
