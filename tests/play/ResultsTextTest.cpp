@@ -1,0 +1,195 @@
+#include "play/ResultsText.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include "basic/Error.h"
+#include "play/ResultsSheet.h"
+#include "play/SampleResults.h"
+#include "print/OutputTarget.h"
+#include "support/QtPrinters.h"
+
+namespace tavrelin {
+namespace {
+
+constexpr ResultsChoice Standings = {true, false, false};
+constexpr ResultsChoice Brief = {true, false, true};
+constexpr ResultsChoice BoxScores = {false, true, false};
+
+ClassResults TwoLines() {
+  ClassResults results = SampleSingles(0, 0);
+  StandingLine one;
+  one.place = 1;
+  one.name = "Ann Baker";
+  one.entryAverage = 65.43;
+  one.handicap = 7;
+  one.card = "NY1234";
+  one.state = "NY";
+  one.won = 3;
+  one.loss = 3.5;
+  one.points = 123;
+  one.ringers = 45;
+  one.headToHead = 2;
+  one.overAverage = -1.25;
+  one.shoes = 160;
+  one.percent = 28.125;
+  StandingLine two = one;
+  two.place = 12;
+  two.name = "Walt Carr";
+  two.entryAverage = 5;
+  two.handicap = 12;
+  two.won = 12;
+  two.loss = 0.5;
+  two.points = 1234;
+  two.overAverage = 11.5;
+  results.standings = {one, two};
+  return results;
+}
+
+QStringList Lines(const ClassResults& results, const ResultsChoice& choice) {
+  return ExportTheClass(results, choice).split(u'\n');
+}
+
+TEST(ResultsText, TheFirstLineNamesTournamentAndClassAndNeitherNumberNorDate) {
+  const QStringList lines = Lines(TwoLines(), Standings);
+  EXPECT_EQ(lines[0], "Spring Open    Class A    ");
+  EXPECT_EQ(lines[1], "");
+  EXPECT_FALSE(ExportTheClass(TwoLines(), Standings).contains("2601007"));
+}
+
+TEST(ResultsText, BriefStandings) {
+  const QStringList lines = Lines(TwoLines(), Brief);
+  EXPECT_EQ(lines[2],
+            "Pos     Name                       Entry %    St     Won     Lost    Pts     Rgrs"
+            "      Sh      R%");
+  EXPECT_EQ(lines[3],
+            "---  ----------------------      --------     --     ----    ----    ---     ----     "
+            "---    -----");
+  EXPECT_EQ(lines[4], QString("  1. Ann Baker") + QString(20 + 2, u' ') +
+                          "65.43     NY     3       3.5    123      45    160    28.13");
+  EXPECT_EQ(lines[5], QString(" 12. Walt Carr") + QString(20 + 2, u' ') +
+                          " 5.00     NY    12       0.5   1234      45    160    28.13");
+}
+
+TEST(ResultsText, FullStandings) {
+  const QStringList lines = Lines(TwoLines(), Standings);
+  EXPECT_EQ(lines[2],
+            "Pos    Name                    Entry %   Hcp  Card#   St  Won  Lost   Pts  Rgrs HToH  "
+            "OvrAvg   Sh   R%");
+  EXPECT_EQ(lines[3],
+            "---    ------------------      -------   ---  -----   --  ---  ----   ---  ---- ----  "
+            "-------  --   --");
+  EXPECT_EQ(
+      lines[4],
+      " 1. Ann Baker                    65.43    7  NY1234   NY   3    3.5  123   45  2   1.25- "
+      "160  28.13");
+  EXPECT_EQ(
+      lines[5],
+      "12. Walt Carr                     5.00   12  NY1234   NY  12    0.5 1234   45  2  11.50  "
+      "160  28.13");
+}
+
+TEST(ResultsText, DoublesStandingsHaveNeitherCardNorStateNorABriefForm) {
+  ClassResults results = TwoLines();
+  results.doubles = true;
+  for (const ResultsChoice& choice : {Standings, Brief}) {
+    const QStringList lines = Lines(results, choice);
+    EXPECT_EQ(lines[2],
+              "Pos   Team                             Entry %  Hcp   Won  Lost   Pts  Rgrs HToH  "
+              "OvrAvg   Sh   R%");
+    EXPECT_EQ(lines[3],
+              "---   ------------------------         ------   ---   ---  ----   ---  ---- ----  "
+              "------   --   --");
+    EXPECT_EQ(lines[4], QString(" 1. Ann Baker") + QString(28, u' ') +
+                            "65.43    7   3    3.5  123   45  2  1.25- 160  28.13");
+  }
+}
+
+TEST(ResultsText, TwoBlocksStandBesideEachOtherInFixedColumns) {
+  ClassResults results = SampleSingles(0, 0);
+  results.boxScores = {
+      Block(1, "Ann Baker",
+            {GameLine("Walt Carr", 40, 12, {30}, 46), GameLine("PACER", 9, 10, {5}, 46, "F-")}),
+      Block(2, "Walt Carr", {GameLine("Ann Baker", 12, 40, {19}, 46)})};
+  const QStringList lines = Lines(results, BoxScores);
+  EXPECT_EQ(lines[2], "");
+  EXPECT_EQ(lines[3].left(58).trimmed(), "1. Ann Baker   1-1");
+  EXPECT_EQ(lines[3].mid(58).trimmed(), "2. Walt Carr   0-1");
+  EXPECT_EQ(lines[4],
+            "     Opponent                 Score  Rgrs  Shs   %        "
+            "     Opponent                 Score  Rgrs  Shs   %");
+  EXPECT_EQ(lines[5],
+            "     --------                 -----  ----  ---  ---       "
+            "     --------                 -----  ----  ---  ---");
+  EXPECT_EQ(lines[6],
+            "  1. Walt Carr                40/12   30    46    65.22   "
+            "  1. Ann Baker                12/40   19    46    41.30");
+  EXPECT_EQ(lines[7].trimmed(), "2. PACER                 F- 9/10     5    46    10.87");
+  EXPECT_EQ(lines[8].left(58), QString(30, u' ') + QString(22, u'-') + QString(6, u' '));
+  EXPECT_EQ(lines[9],
+            "                                49    35    92    38.04   "
+            "                                12    19    46    41.30");
+}
+
+TEST(ResultsText, AnOddNumberOfEntrantsLeavesTheLastRightBlockEmpty) {
+  const QStringList lines = Lines(SampleSingles(3, 2), BoxScores);
+  const qsizetype third = lines.indexOf(QRegularExpression("^3\\. First3.*"));
+  ASSERT_GT(third, 0);
+  for (const QString& line : lines.mid(third)) EXPECT_EQ(line.mid(58).trimmed(), "");
+  EXPECT_TRUE(lines.mid(0, third).filter("First2").first().indexOf("2. First2") == 58);
+}
+
+TEST(ResultsText, TotalsAreThoseOfTheGamesRead) {
+  ClassResults results = SampleSingles(0, 0);
+  results.boxScores = {Block(1, "Ann Baker", {GameLine("Walt Carr", 9, 40, {20}, 40, "F-")})};
+  results.boxScores[0].totals = {0, 0, {0}, {0}};  // a forfeited game is empty in the standings
+  const QStringList lines = Lines(results, BoxScores);
+  EXPECT_EQ(lines[8].simplified(), "9 20 40 50.00");
+}
+
+TEST(ResultsText, TwentyFiveEntrantsFailWhileThePrintedSheetSucceeds) {
+  const ClassResults results = SampleSingles(25, 2);
+  try {
+    ExportTheClass(results, {});
+    ADD_FAILURE() << "the table has room for 24";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), errors::Subscript);
+  }
+  OutputTarget target(OutputTarget::Kind::Printer);
+  PrintTheClass(target, results, {});
+  EXPECT_GT(target.Written().pages.size(), 1);
+  EXPECT_NO_THROW(ExportTheClass(SampleSingles(24, 24), {}));
+  EXPECT_NO_THROW(ExportTheClass(results, Standings));
+  EXPECT_THROW(ExportTheClass(SampleSingles(2, 25), {}), Error);
+}
+
+TEST(ResultsText, DoublesWriteOneBlockBelowTheOtherWithoutALimit) {
+  const QString text = ExportTheClass(SampleDoubles(30, 30), {});
+  EXPECT_TRUE(text.contains("\n30. Stakes30   30-0   (A. - Ada30 First;  B. - Bob30 Second)\n"));
+  EXPECT_EQ(text.count("Opponent"), 30);
+  const QStringList lines = text.split(u'\n');
+  // 30 games of 21 points, 40 shoes, 10 and 20 ringers.
+  EXPECT_EQ(lines[lines.size() - 2].simplified(), "630 1200 300 25.00 600 50.00");
+}
+
+TEST(ResultsText, TheSinglesFolderTakesItsBackslashAndTheDoublesFolderStaysAsItStands) {
+  EXPECT_EQ(ResultsFolder(" C:\\TavrelinData ", false), "C:\\TavrelinData\\");
+  EXPECT_EQ(ResultsFolder("C:\\TavrelinData\\", false), "C:\\TavrelinData\\");
+  EXPECT_EQ(ResultsFolder("C:\\TavrelinData", true), "C:\\TavrelinData");
+}
+
+TEST(ResultsText, AFileThatCannotBeOpenedIsASentenceAndNothingIsWritten) {
+  const QTemporaryDir folder;
+  EXPECT_EQ(WriteResults(folder.filePath("none") + "/", " A.txt ", "text"),
+            "Unable to open file. No such file or directory");
+  EXPECT_EQ(WriteResults(folder.path() + "/ ", " A.txt ", "one\ntwo\n"), "");
+  QFile file(folder.filePath("A.txt"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "one\r\ntwo\r\n");
+}
+
+}  // namespace
+}  // namespace tavrelin
