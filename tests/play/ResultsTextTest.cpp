@@ -82,14 +82,10 @@ TEST(ResultsText, FullStandings) {
   EXPECT_EQ(lines[3],
             "---    ------------------      -------   ---  -----   --  ---  ----   ---  ---- ----  "
             "-------  --   --");
-  EXPECT_EQ(
-      lines[4],
-      " 1. Ann Baker                    65.43    7  NY1234   NY   3    3.5  123   45  2   1.25- "
-      "160  28.13");
-  EXPECT_EQ(
-      lines[5],
-      "12. Walt Carr                     5.00   12  NY1234   NY  12    0.5 1234   45  2  11.50  "
-      "160  28.13");
+  EXPECT_EQ(lines[4], QString(" 1. Ann Baker") + QString(20, u' ') +
+                          "65.43    7  NY1234   NY   3    3.5  123   45  2  1.25- 160  28.13");
+  EXPECT_EQ(lines[5], QString("12. Walt Carr") + QString(20, u' ') +
+                          " 5.00   12  NY1234   NY  12    0.5 1234   45  2 11.50  160  28.13");
 }
 
 TEST(ResultsText, DoublesStandingsHaveNeitherCardNorStateNorABriefForm) {
