@@ -83,7 +83,7 @@ Recordset::Cursor& Recordset::Here() const {
 
 bool Recordset::AtEnd() const {
   const Cursor& here = Here();
-  return !here.adding && here.position > here.Count();
+  return !here.adding && (here.position > here.Count() || here.order.empty());
 }
 
 bool Recordset::AtBeginning() const {

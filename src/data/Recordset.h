@@ -12,6 +12,7 @@ namespace tavrelin {
 class Connection;
 class Criterion;
 class ValueIndex;
+struct RowSourceResult;
 
 /// What a column holds. Sizes are characters; a size of 0 is unlimited.
 enum class FieldType { Text, Memo, Short, Long, Single, Double, YesNo, Date, AutoNumber };
@@ -21,7 +22,8 @@ struct Field {
   QString name;
   FieldType type = FieldType::Text;
   int size = 0;           ///< characters of a text; 0 for no limit and for other types
-  bool updatable = true;  ///< false for expressions and for columns the engine fills itself
+  bool updatable = true;  ///< false for expressions and for columns the engine fills itself; what
+                          ///< is set in an expression's field shows, and is not written
 };
 
 /// Rows fetched whole, walked with a cursor, edited in place: a client-side cursor over a query, or
@@ -140,6 +142,7 @@ class Recordset {
   int RowAt(int position) const;
   void MoveTo(int position);
   int FindByIndex(const Criterion& wanted, ValueIndex& index, int start);
+  void TakeResult(RowSourceResult&& result);
   void WriteNewRow();
   void WriteChanges();
 

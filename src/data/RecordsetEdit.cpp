@@ -41,7 +41,7 @@ void Recordset::Set(int field, const Value& value) {
   CheckField(field);
   CheckWritable();
   const Field& target = rows_->fields[field];
-  if (!target.updatable) {
+  if (!target.updatable && target.type == FieldType::AutoNumber) {
     throw Error(errors::RecordState, QStringLiteral("%1 cannot be changed.").arg(target.name));
   }
   const Value converted =
@@ -85,7 +85,7 @@ void Recordset::WriteNewRow() {
 }
 
 void Recordset::WriteChanges() {
-  const Cursor& here = Here();
+  Cursor& here = Here();
   const int row = rows_->RowOf(here.edited);
   if (row < 0 || rows_->IsDeleted(row)) {
     throw Error(errors::RecordState, QStringLiteral("The record was deleted in the meantime."));
