@@ -97,6 +97,11 @@ QString OverAverageField(double figure) {
   return (figure < 0 ? text : text + u' ').rightJustified(6);
 }
 
+/// A text longer than its picture pushes the line along; it stays apart from the next figure.
+QString Apart(const QString& text) {
+  return text.endsWith(u' ') ? text : text + u' ';
+}
+
 QString TextField(const StandingLine& line, const TextColumn& column) {
   const Cell cell = StandingCell(line, column.figure);
   switch (column.figure) {
@@ -105,7 +110,7 @@ QString TextField(const StandingLine& line, const TextColumn& column) {
     case Figure::Name:
     case Figure::Card:
     case Figure::State:
-      return Format(cell.text, column.picture);
+      return Apart(Format(cell.text, column.picture));
     case Figure::Won:
       return HalfWinField(line.won);
     case Figure::Lost:
@@ -165,7 +170,7 @@ QString GameText(const BoxScore& block, qsizetype game) {
   const BoxFigures& own = line.own;
   const QString score = QStringLiteral("%1/%2").arg(own.points).arg(line.opposingPoints);
   return Padded(NumberCell(static_cast<int>(game) + 1, QStringLiteral("###"))) +
-         QStringLiteral(". ") + line.opponent.leftJustified(22, u' ', true) +
+         QStringLiteral(". ") + line.opponent.leftJustified(21, u' ', true) + u' ' +
          line.forfeitMark.leftJustified(3) + score.leftJustified(7) +
          Padded(NumberCell(own.ringers.value(0), QStringLiteral("##0"))) + Blanks(3) +
          Padded(NumberCell(own.shoes, QStringLiteral("##0"))) + Blanks(3) +

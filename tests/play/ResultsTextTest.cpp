@@ -138,6 +138,13 @@ TEST(ResultsText, AnOddNumberOfEntrantsLeavesTheLastRightBlockEmpty) {
   EXPECT_TRUE(lines.mid(0, third).filter("First2").first().indexOf("2. First2") == 58);
 }
 
+TEST(ResultsText, ANameLongerThanItsColumnStaysApartFromTheNextFigure) {
+  ClassResults results = TwoLines();
+  results.standings[0].name = "Bartholomew-Christopher Featherstonehaugh-Sme";
+  EXPECT_TRUE(Lines(results, Standings)[4].startsWith(
+      " 1. Bartholomew-Christopher Featherstonehaugh-Sme 65.43    7"));
+}
+
 TEST(ResultsText, TotalsAreThoseOfTheGamesRead) {
   ClassResults results = SampleSingles(0, 0);
   results.boxScores = {Block(1, "Ann Baker", {GameLine("Walt Carr", 9, 40, {20}, 40, "F-")})};
