@@ -89,8 +89,8 @@ void SetUp(sqlite3* handle) {
 }
 
 void SetUpFile(sqlite3* handle, const QString& path) {
-  SetUp(handle);
   try {
+    SetUp(handle);
     RunSql(handle, QStringLiteral("PRAGMA journal_mode=DELETE"));
     CheckMark(handle, path);
   } catch (const Error&) {
