@@ -24,6 +24,15 @@ QList<Game> InGameOrder(const LoadedClass& loaded) {
   return games;
 }
 
+/// Big enough to read across the court: a player's two names, or the partners' last names. The
+/// pacers of a team have no last names and stand there as they are called.
+QStringList FrontLines(const QList<PersonName>& throwers) {
+  if (throwers.size() == 1) return {throwers[0].first, throwers[0].last};
+  QStringList lines;
+  for (const PersonName& name : throwers) lines << (name.last.isEmpty() ? name.first : name.last);
+  return lines;
+}
+
 /// Fills cards from the games of a class.
 class CardWriter {
  public:
@@ -70,11 +79,13 @@ class CardWriter {
       card.throwers << PersonName{At(number, thrower.firstName).Trimmed(),
                                   At(number, thrower.lastName).Trimmed()};
     }
+    card.front = FrontLines(card.throwers);
     card.state = At(number, QStringLiteral("State")).Trimmed();
     card.wins = At(number, QStringLiteral("TotalWins")).ToText();
     card.losses = At(number, QStringLiteral("TotalLosses")).ToText();
     card.average = At(number, QStringLiteral("RingerPercent")).ToNumber();
-    if (rules_.handicapPct != 0 && !(card.isPacer && !format_.pacerHasHandicap)) {
+    const bool exempt = card.isPacer && !format_.pacerHasHandicap;
+    if (rules_.handicapPct != 0 && rules_.shoes != 0 && !exempt) {
       card.handicap = HandicapFigure(best_, card.average, rules_.shoes, rules_.handicapPct);
     }
     return card;

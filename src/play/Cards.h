@@ -3,6 +3,7 @@
 #include <optional>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include "play/PlayFormat.h"
 
@@ -38,11 +39,14 @@ struct Card {
   int number = 0;
   bool isPacer = false;
   QList<PersonName> throwers;  ///< the player, or the team's two players
-  QString state;               ///< singles only, as are the next two
-  QString wins;                ///< by the half-win rule
+  QStringList front;  ///< the two lines of its front: his names, or the partners' last names
+  QString state;      ///< singles only, as are the next two
+  QString wins;       ///< by the half-win rule
   QString losses;
-  double average = 0;           ///< entry average, percent
-  std::optional<int> handicap;  ///< nothing in a class without handicap, nor for the singles pacer
+  double average = 0;  ///< entry average, percent
+  /// Nothing in a class without handicap or without a fixed number of shoes, nor for the singles
+  /// pacer.
+  std::optional<int> handicap;
   QList<CardLine> lines;
 };
 

@@ -150,6 +150,7 @@ PlayFormat MakeSingles() {
   f.pacerRow = {{"PlayerID", f.pacerID}, {"FirstName", "PACER"}, {"LastName", " "}};
   f.namesInStatement = true;
   f.hasOverride = true;
+  f.hasTwoUpCards = true;
   f.standingsName = QStringLiteral("PlayerName");
   f.standingsRingers = {QStringLiteral("Ringers")};
   f.ringerOrder = {"Won DESC, Loss ASC, RingerPercent DESC, HeadToHead DESC, OverAverage DESC",

@@ -66,7 +66,8 @@ struct PlayFormat {
   QStringList standingsRingers;   ///< ringers by thrower in a row of the standings
   bool hasOverride = false;       ///< the director may set the places by hand
   bool pacerHasHandicap = false;  ///< on the pacer's card
-  RankOrder ringerOrder;          ///< ringer percentage as tie-breaker, without handicap
+  bool hasTwoUpCards = false;  ///< and a worksheet; the card style is a number then, not yes or no
+  RankOrder ringerOrder;       ///< ringer percentage as tie-breaker, without handicap
 
   /// The names of these entrants by ID, in one query: players as "First Last", teams by their team
   /// name. Who is not in the file, the pacer above all, is not in the answer.

@@ -30,6 +30,12 @@ int OutputTarget::TextWidth(const QString& text) const {
   return tavrelin::TextWidth(font_, text);
 }
 
+double OutputTarget::SizeWithin(int width, const QString& text) const {
+  const int wide = TextWidth(text);
+  if (wide <= width) return font_.size;
+  return std::max(SmallestSize, std::floor(font_.size * width / wide * 10) / 10);
+}
+
 void OutputTarget::Put(int y, const PageFont& font, const QString& text) {
   if (!text.isEmpty()) ThisPage().marks.append(TextMark{x_, y, text, font, 0});
 }
@@ -50,10 +56,9 @@ void OutputTarget::PrintAt(int x, const QString& text) {
 }
 
 void OutputTarget::PrintWithin(int width, const QString& text) {
-  const int wide = TextWidth(text);
-  if (wide <= width) return PrintOn(text);
   PageFont smaller = font_;
-  smaller.size = std::max(SmallestSize, std::floor(font_.size * width / wide * 10) / 10);
+  smaller.size = SizeWithin(width, text);
+  if (smaller == font_) return PrintOn(text);
   Put(y_ + Ascent(font_) - Ascent(smaller), smaller, text);
   x_ += tavrelin::TextWidth(smaller, text);
 }

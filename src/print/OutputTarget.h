@@ -39,6 +39,8 @@ class OutputTarget {
   /// Of the present font, measured on the one device that all targets share.
   int LineHeight() const;
   int TextWidth(const QString& text) const;
+  /// The present size, or the smaller one, in points, in which the text is no wider than `width`.
+  double SizeWithin(int width, const QString& text) const;
 
   // Writing
 
