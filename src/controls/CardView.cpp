@@ -31,6 +31,7 @@ CardView::CardView(GridCore& core, GridKeys& keys, QWidget* parent)
   setSelectionModel(&core.cursor);
   setItemDelegate(delegate_);
   setEditTriggers(NoEditTriggers);
+  setSelectionMode(SingleSelection);
   setTabKeyNavigation(false);
   setVerticalScrollMode(ScrollPerPixel);
   LayOutFields();

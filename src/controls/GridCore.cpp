@@ -49,9 +49,8 @@ void GridCore::Rebind() {
   Recordset* recordset = model.Bound();
   if (!recordset || !recordset->IsOpen()) return LayOut();
   Guarded("Rebind", [&] {
-    const auto bookmark = model.BookmarkAt(Line());
     if (!recordset->Sort().isEmpty()) recordset->SetSort(recordset->Sort());
-    if (bookmark != 0) recordset->GoTo(bookmark);
+    if (here_ != 0) recordset->GoTo(here_);
   });
   LayOut();
 }
@@ -60,10 +59,9 @@ void GridCore::Sort() {
   Recordset* recordset = model.Bound();
   if (!recordset || !recordset->IsOpen()) return LayOut();
   Guarded("Sort", [&] {
-    const auto bookmark = model.BookmarkAt(Line());
     const QString text = SortText(*recordset, Keys());
     if (!text.isEmpty() && recordset->Sort() != text) recordset->SetSort(text);
-    if (bookmark != 0) recordset->GoTo(bookmark);
+    if (here_ != 0) recordset->GoTo(here_);
   });
   LayOut();
 }
@@ -72,7 +70,6 @@ void GridCore::Sort() {
 // have sorted it otherwise since.
 void GridCore::LayOut() {
   CloseCell(true);
-  const auto bookmark = model.BookmarkAt(Line());
   const int row = Row(), column = Column();
   const bool newRow = row == -1;
   Recordset* recordset = model.Bound();
@@ -82,17 +79,18 @@ void GridCore::LayOut() {
   }
   const int scrolled = view ? view->verticalScrollBar()->value() : 0;
   model.LayOut(recordset && allowAddNew, std::move(order), GroupColumns());
-  Restore(bookmark, newRow, row, column);
+  Restore(newRow, row, column);
   if (view) view->verticalScrollBar()->setValue(scrolled);
 }
 
-void GridCore::Restore(Recordset::Bookmark bookmark, bool newRow, int row, int column) {
-  int line = newRow ? model.Rows().LineOfRow(-1) : model.LineOf(bookmark);
+void GridCore::Restore(bool newRow, int row, int column) {
+  int line = newRow ? model.Rows().LineOfRow(-1) : model.LineOf(here_);
   const int records = model.Rows().Records();
   if (line < 0 && records > 0) line = model.Rows().LineOfRow(std::clamp(row, 1, records));
   if (line < 0) line = model.Rows().LineOfRow(-1);
-  const bool same = newRow ? model.Rows().IsNewRow(line) : model.BookmarkAt(line) == bookmark;
+  const bool same = newRow ? model.Rows().IsNewRow(line) : model.BookmarkAt(line) == here_;
   if (!same) model.Pending() = {};
+  here_ = model.BookmarkAt(line);
   cursor.Place(line < 0 ? QModelIndex() : model.index(line, std::max(column, 0)));
   Q_EMIT CurrentChanged();
 }
@@ -208,8 +206,8 @@ void GridCore::Place(int line, int column, bool bound) {
   const int lastRow = bound ? 0 : Row(), lastCol = bound ? 0 : Col();
   if (lastRow != model.Rows().RowAt(line)) model.Pending() = {};
   cursor.Place(line < 0 ? QModelIndex() : model.index(line, column));
-  const auto bookmark = model.BookmarkAt(line);
-  if (bookmark != 0) Guarded("RowColChange", [&] { model.Bound()->GoTo(bookmark); });
+  here_ = model.BookmarkAt(line);
+  if (here_ != 0) Guarded("RowColChange", [&] { model.Bound()->GoTo(here_); });
   if (view && line >= 0) view->scrollTo(cursor.currentIndex());
   Repaint();
   Q_EMIT CurrentChanged();

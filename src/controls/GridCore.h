@@ -59,6 +59,8 @@ class GridCore : public QObject {
   int Column() const { return cursor.currentIndex().column(); }
   int Row() const;
   int Col() const;
+  /// The row under the cursor; known also while the recordset lies in another order than shown.
+  Recordset::Bookmark Here() const { return here_; }
   bool OnNewRow() const { return Row() == -1; }
   /// Goes to a line and column; a row that is left is saved first. False when it was refused.
   bool MoveTo(int line, int column);
@@ -109,7 +111,7 @@ class GridCore : public QObject {
 
  private:
   void Place(int line, int column, bool bound = false);
-  void Restore(Recordset::Bookmark bookmark, bool newRow, int row, int column);
+  void Restore(bool newRow, int row, int column);
   QList<ColumnOrder> Keys() const;
   QList<int> GroupColumns() const;
   void Write();
@@ -122,6 +124,7 @@ class GridCore : public QObject {
   void FetchFailed(const char* event);
 
   GridGuard guard_;
+  Recordset::Bookmark here_ = 0;
   PendingRow beforeCell_;
   int moves_ = 0;  // counts the moves to rows, to tell when a procedure made one of its own
   bool committing_ = false;

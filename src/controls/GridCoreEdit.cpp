@@ -107,7 +107,7 @@ void GridCore::ForceChanged() {
   if (Row() == 0) return;
   PendingRow& pending = model.Pending();
   pending.isNew = OnNewRow();
-  pending.bookmark = model.BookmarkAt(Line());
+  pending.bookmark = here_;
   pending.changed = true;
 }
 
@@ -203,21 +203,19 @@ void GridCore::Written(Recordset::Bookmark bookmark) {
 
 bool GridCore::DeleteRow() {
   if (!allowDelete || Row() < 1 || committing_) return false;
-  const auto bookmark = model.BookmarkAt(Line());
   GridDelete event;
   if (!Raise("BeforeDelete", face.on.BeforeDelete, event) || event.cancel) return false;
   CloseCell(false);
   const int row = Row(), col = Col();
   const bool deleted = Guarded("Delete", [&] {
-    if (!model.Bound()->GoTo(bookmark)) return;
+    if (!model.Bound()->GoTo(here_)) return;
     model.Bound()->Delete();
   });
   if (!deleted) return false;
   model.Pending() = {};
   ++moves_;
   LayOut();
-  const auto next = model.BookmarkAt(Line());
-  if (next != 0) Guarded("Delete", [&] { model.Bound()->GoTo(next); });
+  if (here_ != 0) Guarded("Delete", [&] { model.Bound()->GoTo(here_); });
   Raise("RowColChange", face.on.RowColChange, row, col);
   return true;
 }

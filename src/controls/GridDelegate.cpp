@@ -62,6 +62,11 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
       core_.model.headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole);
   editor_->setAccessibleName(caption.toString());
   editor_->setAutoFillBackground(true);
+  if (qobject_cast<QLineEdit*>(editor_)) {
+    editor_->setStyleSheet(
+        QStringLiteral("border: 3px solid palette(highlight);"
+                       "background: palette(base); padding-left: 5px;"));
+  }
   return editor_;
 }
 
@@ -113,11 +118,12 @@ void GridDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
 
 void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex&) const {
-  // A cell that is too narrow to type in grows over its neighbors while it is open.
+  // An open cell stands out over its neighbors, further where it would be too narrow to type in.
   const int least = editor->fontMetrics().averageCharWidth() * 10;
-  QRect box = option.rect;
+  QRect box = option.rect.adjusted(-4, -4, 4, 4);
   if (box.width() < least) box.setWidth(least);
   if (qobject_cast<DateEdit*>(editor)) box.setWidth(qMax(box.width(), least * 2));
+  box.moveTopLeft(QPoint(qMax(0, box.left()), qMax(0, box.top())));
   const int right = editor->parentWidget()->width();
   if (box.right() >= right) box.moveRight(qMax(right - 1, box.width() - 1));
   editor->setGeometry(box);

@@ -186,6 +186,8 @@ class GridEX : public QWidget {
  Q_SIGNALS:
   /// The current row or what is in it changed; for the footers of the grid itself.
   void CurrentChanged();
+  /// Other rows, or the rows anew: after SetRecordset and Rebind.
+  void Rebound();
 
  private:
   struct Widgets;

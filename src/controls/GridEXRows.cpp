@@ -44,7 +44,7 @@ int GridEX::Col() const {
 }
 
 Recordset::Bookmark GridEX::CurrentBookmark() const {
-  return core_->model.BookmarkAt(core_->Line());
+  return core_->Here();
 }
 
 bool GridEX::SetRow(int row) {

@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QProxyStyle>
 #include <QStyleHints>
 #include <QToolTip>
 
@@ -13,8 +14,22 @@
 
 namespace tavrelin {
 
+namespace {
+
+// Captions stand over their texts: with the same margin at the side.
+class HeaderStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    return metric == PM_HeaderMargin ? 7 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
+}  // namespace
+
 GridHeader::GridHeader(GridCore& core, QWidget* parent)
-    : QHeaderView(Qt::Horizontal, parent), core_(core) {
+    : QHeaderView(Qt::Horizontal, parent), core_(core), style_(new HeaderStyle) {
+  setStyle(style_.get());
   setSectionsClickable(true);
   setHighlightSections(false);
   setTextElideMode(Qt::ElideRight);
@@ -25,6 +40,10 @@ GridHeader::GridHeader(GridCore& core, QWidget* parent)
     core_.HeaderClicked(number);
     ShowSortKey();
   });
+}
+
+GridHeader::~GridHeader() {
+  setStyle(nullptr);
 }
 
 QString GridHeader::DragKind() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <QHeaderView>
 
 namespace tavrelin {
@@ -12,6 +13,7 @@ class GridHeader : public QHeaderView {
 
  public:
   GridHeader(GridCore& core, QWidget* parent);
+  ~GridHeader() override;
 
   /// The kind of drag that carries a column's key.
   static QString DragKind();
@@ -29,6 +31,7 @@ class GridHeader : public QHeaderView {
 
  private:
   GridCore& core_;
+  std::unique_ptr<QStyle> style_;
   QPoint pressedAt_;
   int pressed_ = -1;
 };

@@ -1,11 +1,25 @@
 #include "controls/GridModel.h"
 
 #include <algorithm>
-#include <QLocale>
+#include <array>
+#include <charconv>
 
 #include "basic/Picture.h"
 
 namespace tavrelin {
+
+namespace {
+
+// A 32-bit number in the fewest digits that give it back: 33.335, not 33.3349990844727.
+QString ShortestText(const Value& single) {
+  std::array<char, 64> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                 static_cast<float>(single.ToNumber()), std::chars_format::fixed);
+  if (end.ec != std::errc()) return single.ToText();
+  return QString::fromLatin1(digits.data(), end.ptr - digits.data());
+}
+
+}  // namespace
 
 GridModel::GridModel(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -136,13 +150,14 @@ Value GridModel::FieldValue(int line, const QString& field) const {
   const int row = rows_.RowAt(line);
   if (row < 1 || !recordset_ || !recordset_->IsOpen()) return {};
   const int position = rows_.PositionOfRow(row);
-  const int index = recordset_->FieldIndex(field);
-  if (index < 0 || position > recordset_->RecordCount()) return {};
+  if (position > recordset_->RecordCount()) return {};
   if (!overlay_.isEmpty()) {
     const auto shown = overlay_.constFind(field.toLower());
     const auto bookmark = recordset_->BookmarkAt(position);
     if (shown != overlay_.constEnd() && shown->contains(bookmark)) return shown->value(bookmark);
   }
+  const int index = recordset_->FieldIndex(field);
+  if (index < 0) return {};
   return recordset_->CellAt(position, index);
 }
 
@@ -174,10 +189,7 @@ QString GridModel::EditText(int line, int number) const {
   if (value.kind() == Value::Kind::Date) return Format(value, column.picture);
   const int field = recordset_ && recordset_->IsOpen() ? recordset_->FieldIndex(column.field) : -1;
   const bool single = field >= 0 && recordset_->Fields()[field].type == FieldType::Single;
-  if (single && value.kind() == Value::Kind::Floating) {
-    return QLocale::c().toString(static_cast<float>(value.ToNumber()), 'g',
-                                 QLocale::FloatingPointShortest);
-  }
+  if (single && value.kind() == Value::Kind::Floating) return ShortestText(value);
   return value.ToText();
 }
 
@@ -265,7 +277,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
-  if (!index.isValid() || rows_.RowAt(index.row()) == 0) return Qt::ItemIsEnabled;
+  if (!index.isValid()) return Qt::NoItemFlags;
+  if (rows_.RowAt(index.row()) == 0) return Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
   if (index.column() > 0 && mayEdit && mayEdit(index.row(), index.column())) {
     flags |= Qt::ItemIsEditable;

@@ -35,7 +35,9 @@ Look LookOf(const GridCore& core, const QStyleOptionViewItem& option, const QMod
   look.wholeRow = look.currentRow && core.Column() == 0;
   look.currentCell = look.currentRow && !look.wholeRow && index.column() == core.Column();
   look.ink = text;
-  look.paper = index.row() % 2 == 0 ? base : Blend(base, text, 4);
+  const bool table = qobject_cast<const QTableView*>(option.widget);
+  look.paper = index.row() % 2 == 0 || !table ? base : Blend(base, text, 4);
+  if (!table && index.column() > 0 && !look.currentCell) return look;
   if (look.currentCell) {
     look.paper = base;
   } else if (look.wholeRow && look.focus) {
@@ -77,7 +79,7 @@ void PaintSelector(QPainter& painter, const QRect& cell, const GridCore& core, c
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(look.ink);
-  if (look.currentRow && core.model.Pending().typed) {
+  if (look.currentRow && (core.model.Pending().typed || core.IsOpen())) {
     PaintPencil(painter, box);
   } else if (core.model.Rows().IsNewRow(line)) {
     PaintPlus(painter, box);
@@ -105,6 +107,14 @@ void PaintCross(QPainter& painter, const QRect& cell, const QColor& ink) {
   painter.setPen(QPen(ink, 2));
   painter.drawLine(box.topLeft(), box.bottomRight());
   painter.drawLine(box.topRight(), box.bottomLeft());
+}
+
+// The rules under and beside a cell; a text that runs across a line is not cut by them.
+void PaintRules(QPainter& painter, const QRect& cell, const QColor& color, bool beside) {
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(color);
+  painter.drawLine(cell.bottomLeft(), cell.bottomRight());
+  if (beside) painter.drawLine(cell.topRight(), cell.bottomRight());
 }
 
 // A text that runs over all cells of a line: each cell shows its own piece of it.
@@ -163,6 +173,11 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(pen);
     painter->drawRect(
         option.rect.adjusted(width / 2, width / 2, -(width + 1) / 2, -(width + 1) / 2));
+  }
+  if (qobject_cast<const QTableView*>(option.widget)) {
+    const bool across = heading || (hint && number > 0);
+    PaintRules(*painter, option.rect, Blend(option.palette.color(QPalette::Base), look.ink, 18),
+               !across);
   }
   painter->restore();
 }

@@ -24,9 +24,10 @@ GridView::GridView(GridCore& core, GridKeys& keys, QWidget* parent)
   setSelectionModel(&core.cursor);
   setItemDelegate(new GridDelegate(core, this));
   setEditTriggers(NoEditTriggers);
+  setSelectionMode(SingleSelection);  // a click on a caption must not move the cursor
   setTabKeyNavigation(false);
   setHorizontalScrollMode(ScrollPerPixel);
-  setShowGrid(true);
+  setShowGrid(false);
   setWordWrap(false);
   setCornerButtonEnabled(false);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

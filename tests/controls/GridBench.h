@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
@@ -112,8 +113,10 @@ struct GridBench {
     }
   }
   QString Editor() const {
-    auto* editor = window.findChild<QLineEdit*>("CellEditor");
-    return editor ? editor->text() : QString("(closed)");
+    for (auto* editor : window.findChildren<QLineEdit*>("CellEditor")) {
+      if (editor->isVisible()) return editor->text();
+    }
+    return "(closed)";
   }
   /// A field of the recordset, by the row on show.
   QString Stored(int position, const QString& field) const {
@@ -128,7 +131,9 @@ struct GridBench {
   QString Place() const { return QString("%1,%2").arg(grid->Row()).arg(grid->Col()); }
   void Shot(const QString& name) {
     const QString folder = qEnvironmentVariable("TAVRELIN_SHOTS");
-    if (!folder.isEmpty()) window.grab().save(QDir(folder).filePath(name + ".png"));
+    if (folder.isEmpty()) return;
+    QApplication::processEvents();
+    window.grab().save(QDir(folder).filePath(name + ".png"));
   }
 
   ErrorRecorder errors;
