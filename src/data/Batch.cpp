@@ -2,6 +2,8 @@
 
 #include <exception>
 
+#include <QScopeGuard>
+
 #include "basic/Error.h"
 #include "data/Connection.h"
 #include "data/ConnectionParts.h"
@@ -35,19 +37,14 @@ Batch::~Batch() noexcept(false) {
 void Batch::Commit() {
   if (!open_) return;
   open_ = false;
-  --connection_.d()->batches;
   sqlite3* handle = connection_.Handle();
-  if (sqlite3_get_autocommit(handle) != 0) {
-    throw Error(errors::FileUnusable,
-                QStringLiteral("None of these changes were saved, because the disk refused one of "
-                               "them. Make room on the disk and try again."));
-  }
+  const auto leave = qScopeGuard([this] { --connection_.d()->batches; });
+  connection_.d()->CheckBatch();
   if (!outermost_) return RunSql(handle, QStringLiteral("RELEASE batch"));
   try {
     RunSql(handle, QStringLiteral("COMMIT"));
   } catch (const Error&) {
-    if (sqlite3_get_autocommit(handle) == 0)
-      sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
     throw;
   }
 }

@@ -177,9 +177,17 @@ const Connection::Private::Kept& Connection::Private::Keep(const QString& sql, b
   return kept.front();
 }
 
+void Connection::Private::CheckBatch() const {
+  if (batches == 0 || sqlite3_get_autocommit(handle) == 0) return;
+  throw Error(
+      errors::FileUnusable,
+      QStringLiteral("None of these changes were saved, because the disk refused one of them. "
+                     "Make room on the disk and try again."));
+}
+
 void Connection::Private::Run(const QString& sql, bool withRowNumber,
                               const QList<Value>& parameters, const Work& work) {
-  if (!handle) throw Error(errors::RecordState, QStringLiteral("No file is open."));
+  CheckBatch();
   if (!parameters.isEmpty()) {
     const Kept& known = Keep(sql, withRowNumber);
     Statement statement(handle, known.statement);

@@ -39,6 +39,9 @@ struct Connection::Private {
   using Work = std::function<void(const Translation&, Statement*)>;
   void Run(const QString& sql, bool withRowNumber, const QList<Value>& parameters,
            const Work& work);
+  /// Refuses when SQLite has given up the open batch by itself, as it does on a full disk: what
+  /// follows must not be written row by row.
+  void CheckBatch() const;
   const Kept& Keep(const QString& sql, bool withRowNumber);
 
   QString file;

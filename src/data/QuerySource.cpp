@@ -131,6 +131,7 @@ std::vector<Value> QuerySource::ReadBack(qint64 id) const {
 }
 
 qint64 QuerySource::Insert(const PendingRow& values, std::vector<Value>& stored) {
+  connection_.d()->CheckBatch();
   QStringList names;
   QStringList marks;
   QList<Value> given;
@@ -154,6 +155,7 @@ qint64 QuerySource::Insert(const PendingRow& values, std::vector<Value>& stored)
 }
 
 void QuerySource::Update(qint64 id, PendingRow& values) {
+  connection_.d()->CheckBatch();
   QStringList settings;
   QList<Value> given;
   for (size_t field = 0; field < values.size(); ++field) {
@@ -180,6 +182,7 @@ void QuerySource::Update(qint64 id, PendingRow& values) {
 }
 
 void QuerySource::Delete(qint64 id) {
+  connection_.d()->CheckBatch();
   Statement remove(connection_.Handle(),
                    QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(QuotedName(table_)));
   remove.Bind(1, Value(id));

@@ -84,15 +84,18 @@ QString Sentence(int code, const QString& file, const QString& message) {
   }
 }
 
+[[noreturn]] void ThrowMoved(const QString& file) {
+  throw Error(errors::FileUnusable,
+              QStringLiteral("The file %1 was replaced, moved, deleted or cut short while it was "
+                             "open, and nothing was written. Leave the screen and open the file "
+                             "again.")
+                  .arg(file));
+}
+
 [[noreturn]] void ThrowConstraint(int code, const QString& file, const QString& message) {
   switch (code) {
     case SQLITE_CONSTRAINT_COMMITHOOK:
-      throw Error(
-          errors::FileUnusable,
-          QStringLiteral("The file %1 was replaced, moved, deleted or cut short while it was "
-                         "open, and nothing was written. Leave the screen and open the file "
-                         "again.")
-              .arg(file));
+      ThrowMoved(file);
     case SQLITE_CONSTRAINT_PRIMARYKEY:
     case SQLITE_CONSTRAINT_UNIQUE:
     case SQLITE_CONSTRAINT_ROWID:
@@ -118,6 +121,7 @@ void ThrowDatabaseError(sqlite3* handle) {
   if (code == SQLITE_ERROR) ThrowMistake(message);
   const char* path = sqlite3_db_filename(handle, "main");
   const QString file = QDir::toNativeSeparators(QString::fromUtf8(path ? path : ""));
+  if (code == SQLITE_READONLY_DBMOVED) ThrowMoved(file);
   const int primary = code & 0xff;
   if (primary == SQLITE_CONSTRAINT) ThrowConstraint(code, file, message);
   const bool unusable = primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB;

@@ -155,7 +155,9 @@ TEST_F(ConnectionTest, AnOpenFileThatWasMovedDeletedReplacedOrCutShortTakesNoMor
     connection.Open(ConnectText());
     EXPECT_EQ(Ask("SELECT COUNT(*) FROM Players"), Value(1));
     harm();
-    EXPECT_THROW(Insert(), Error);
+    const QString sentence = Sentence([&] { Insert(); });
+    const bool cut = QFileInfo(path).exists() && QFileInfo(path).size() < before.size();
+    EXPECT_TRUE(cut || sentence.contains("was replaced, moved, deleted")) << sentence.toStdString();
     EXPECT_THROW(Insert(), Error);
     const QString survivor = QFile::exists(aside) ? aside : path;
     QFile file(survivor);
@@ -224,6 +226,16 @@ TEST_F(ConnectionTest, ALockLeftByACrashDoesNotBlock) {
   Write("Club.mdb.lock", "1234");
   connection.Open(ConnectText());
   EXPECT_TRUE(connection.IsOpen());
+}
+
+TEST_F(ConnectionTest, AFileThatAnotherProgramIsWritingIsTold) {
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(qPrintable(path), &other), SQLITE_OK);
+  sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+  EXPECT_TRUE(Sentence([&] { Insert(); }).contains("used by another program"));
+  sqlite3_close(other);
+  Insert();
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM Players"), Value(1));
 }
 
 TEST_F(ConnectionTest, ASnapshotShowsTheFileAndWritesNothingToIt) {

@@ -38,6 +38,26 @@ TEST(FaultWorker, DISABLED_WritesRows) {
   }
 }
 
+// A program that goes on after the disk refused a row of its batch.
+TEST(FaultWorker, DISABLED_GoesOnAfterARefusal) {
+  Connection connection;
+  connection.Open(QStringLiteral("DBQ=%1;").arg(qEnvironmentVariable("TAVRELIN_FAULT_FILE")));
+  try {
+    Batch batch(connection);
+    const QString wide(200, u'x');
+    for (int row = 1; row <= 20 * kBatch; ++row) {
+      try {
+        connection.Execute("INSERT INTO Games VALUES(?, ?)", {Value(row), Value(wide)});
+      } catch (const Error&) {
+        continue;
+      }
+    }
+    batch.Commit();
+  } catch (const Error& error) {
+    std::printf("refused: %s\n", error.what());
+  }
+}
+
 struct FaultTest : ClubFixture {
   FaultTest() {
     Run("CREATE TABLE Games (ID INTEGER, Kind TEXT(255))");
@@ -95,6 +115,14 @@ TEST_F(FaultTest, AFullDiskIsToldAndTheFileStaysWhole) {
         << outcome.output.toStdString();
     CheckFile(outcome.output, at);
   }
+}
+
+TEST_F(FaultTest, ABatchThatLostItsTransactionWritesNothingMore) {
+  const QStringList command = FaultBench::Worker("FaultWorker.DISABLED_GoesOnAfterARefusal");
+  const FaultBench::Outcome outcome = bench.FailFrom(4, "ENOSPC", command);
+  if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";
+  EXPECT_TRUE(outcome.output.contains("refused: ")) << outcome.output.toStdString();
+  EXPECT_EQ(Raw("SELECT COUNT(*) FROM Games"), "0");
 }
 
 TEST_F(FaultTest, AFailingDiskIsToldAndTheFileStaysWhole) {
