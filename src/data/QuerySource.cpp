@@ -11,7 +11,8 @@
 namespace tavrelin {
 namespace {
 
-void AppendCell(RowStore& rows, sqlite3_stmt* statement, int column) {
+// A CHAR that another program padded reads as it would have been written here: without the blanks.
+void AppendCell(RowStore& rows, sqlite3_stmt* statement, int column, bool padded) {
   switch (sqlite3_column_type(statement, column)) {
     case SQLITE_INTEGER:
       return rows.AppendWhole(sqlite3_column_int64(statement, column));
@@ -21,7 +22,9 @@ void AppendCell(RowStore& rows, sqlite3_stmt* statement, int column) {
       return rows.AppendNull();
     default: {
       const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-      return rows.AppendText(text, sqlite3_column_bytes(statement, column));
+      int bytes = sqlite3_column_bytes(statement, column);
+      while (padded && bytes > 0 && text[bytes - 1] == ' ') --bytes;
+      return rows.AppendText(text, bytes);
     }
   }
 }
@@ -50,6 +53,15 @@ const TableColumn* Origin(Catalogue& catalogue, sqlite3_stmt* statement, int col
   return found == columns.end() ? nullptr : &*found;
 }
 
+std::vector<bool> PaddedColumns(Catalogue& catalogue, sqlite3_stmt* statement, int columns) {
+  std::vector<bool> padded;
+  for (int column = 0; column < columns; ++column) {
+    const TableColumn* origin = Origin(catalogue, statement, column);
+    padded.push_back(origin && origin->type.fixed);
+  }
+  return padded;
+}
+
 [[noreturn]] void RefuseGone() {
   throw Error(errors::RecordState,
               QStringLiteral("The record was deleted in the meantime. Show the list again."));
@@ -61,26 +73,33 @@ QuerySource::QuerySource(const QString& sql, Connection& connection, const QList
                          bool editable)
     : sql_(sql), connection_(connection), parameters_(parameters), editable_(editable) {}
 
-RowSourceResult QuerySource::Fetch() {
+Connection::Private& QuerySource::Link() const {
   if (!connection_.IsOpen()) throw Error(errors::RecordState, QStringLiteral("No file is open."));
+  return *connection_.d();
+}
+
+RowSourceResult QuerySource::Fetch() {
   RowSourceResult result;
-  connection_.d()->Run(
-      sql_, editable_, parameters_, [&](const Translation& translation, Statement* statement) {
-        if (translation.kind != Translation::Kind::Query) {
-          throw Error(errors::Syntax, QStringLiteral("The statement returns no records."));
-        }
-        table_ = editable_ ? translation.table : QString();
-        rowSql_ = translation.rowSql;
-        sqlite3_stmt* handle = statement->Handle();
-        const int columns = sqlite3_column_count(handle) - (table_.isEmpty() ? 0 : 1);
-        result.rows = RowStore(columns);
-        while (statement->Step()) {
-          result.rows.BeginRow();
-          for (int column = 0; column < columns; ++column) AppendCell(result.rows, handle, column);
-          if (!table_.isEmpty()) result.ids.push_back(sqlite3_column_int64(handle, columns));
-        }
-        Describe(translation, handle, columns, result);
-      });
+  Link().Run(sql_, editable_, parameters_,
+             [&](const Translation& translation, Statement* statement) {
+               if (translation.kind != Translation::Kind::Query) {
+                 throw Error(errors::Syntax, QStringLiteral("The statement returns no records."));
+               }
+               table_ = editable_ ? translation.table : QString();
+               rowSql_ = translation.rowSql;
+               sqlite3_stmt* handle = statement->Handle();
+               const int columns = sqlite3_column_count(handle) - (table_.isEmpty() ? 0 : 1);
+               result.rows = RowStore(columns);
+               const std::vector<bool> padded = PaddedColumns(*Link().catalogue, handle, columns);
+               while (statement->Step()) {
+                 result.rows.BeginRow();
+                 for (int column = 0; column < columns; ++column) {
+                   AppendCell(result.rows, handle, column, padded[static_cast<size_t>(column)]);
+                 }
+                 if (!table_.isEmpty()) result.ids.push_back(sqlite3_column_int64(handle, columns));
+               }
+               Describe(translation, handle, columns, result);
+             });
   return result;
 }
 
@@ -91,7 +110,7 @@ void QuerySource::Describe(const Translation& translation, sqlite3_stmt* stateme
     Field field;
     ColumnType type;
     field.name = QString::fromUtf8(sqlite3_column_name(statement, column));
-    const TableColumn* origin = Origin(*connection_.d()->catalogue, statement, column);
+    const TableColumn* origin = Origin(*Link().catalogue, statement, column);
     if (origin) {
       type = origin->type;
     } else {
@@ -108,6 +127,7 @@ void QuerySource::Describe(const Translation& translation, sqlite3_stmt* stateme
     result.types.push_back(type);
   }
   fields_ = result.fields;
+  types_ = result.types;
 }
 
 bool QuerySource::IsWritten(size_t field, const PendingRow& values) const {
@@ -121,7 +141,7 @@ std::vector<Value> QuerySource::ReadBack(qint64 id) const {
   RowStore cells(static_cast<int>(fields_.size()));
   cells.BeginRow();
   for (int column = 0; column < fields_.size(); ++column) {
-    AppendCell(cells, statement.Handle(), column);
+    AppendCell(cells, statement.Handle(), column, types_[static_cast<size_t>(column)].fixed);
   }
   std::vector<Value> values;
   for (int column = 0; column < fields_.size(); ++column) {
@@ -131,7 +151,7 @@ std::vector<Value> QuerySource::ReadBack(qint64 id) const {
 }
 
 qint64 QuerySource::Insert(const PendingRow& values, std::vector<Value>& stored) {
-  connection_.d()->CheckBatch();
+  Link().CheckBatch();
   QStringList names;
   QStringList marks;
   QList<Value> given;
@@ -155,7 +175,7 @@ qint64 QuerySource::Insert(const PendingRow& values, std::vector<Value>& stored)
 }
 
 void QuerySource::Update(qint64 id, PendingRow& values) {
-  connection_.d()->CheckBatch();
+  Link().CheckBatch();
   QStringList settings;
   QList<Value> given;
   for (size_t field = 0; field < values.size(); ++field) {
@@ -182,7 +202,7 @@ void QuerySource::Update(qint64 id, PendingRow& values) {
 }
 
 void QuerySource::Delete(qint64 id) {
-  connection_.d()->CheckBatch();
+  Link().CheckBatch();
   Statement remove(connection_.Handle(),
                    QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(QuotedName(table_)));
   remove.Bind(1, Value(id));

@@ -3,14 +3,13 @@
 #include <QList>
 #include <QString>
 
+#include "data/Connection.h"
 #include "data/Dialect.h"
 #include "data/RowSource.h"
 
 struct sqlite3_stmt;
 
 namespace tavrelin {
-
-class Connection;
 
 /// A query on a connection as the source of a recordset.
 class QuerySource : public RowSource {
@@ -27,6 +26,8 @@ class QuerySource : public RowSource {
  private:
   void Describe(const Translation& translation, sqlite3_stmt* statement, int columns,
                 RowSourceResult& result);
+  /// The open connection; throws Error when it was closed.
+  Connection::Private& Link() const;
   bool IsWritten(size_t field, const PendingRow& values) const;
   std::vector<Value> ReadBack(qint64 id) const;
 
@@ -38,6 +39,7 @@ class QuerySource : public RowSource {
   QString rowSql_;
   QStringList columns_;  ///< the table's column behind each field; empty for a computed one
   QList<Field> fields_;
+  std::vector<ColumnType> types_;
 };
 
 }  // namespace tavrelin

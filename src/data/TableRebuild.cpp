@@ -146,9 +146,27 @@ void Rebuild(sqlite3* handle, const Translation::Rebuild& change) {
   for (const QString& companion : companions) RunSql(handle, companion);
 }
 
+// Within a transaction the watch over foreign keys cannot be lifted, and dropping the old table
+// would take along the rows that point to it.
+void CheckPointers(sqlite3* handle, const QString& table) {
+  if (sqlite3_get_autocommit(handle) != 0) return;
+  const QStringList children = Ask(
+      handle,
+      QStringLiteral("SELECT s.name FROM sqlite_schema s, pragma_foreign_key_list(s.name) f WHERE "
+                     "s.type = 'table' AND f.\"table\" = ? COLLATE NOCASE"),
+      table);
+  if (children.isEmpty()) return;
+  throw Error(
+      errors::Database,
+      QStringLiteral("The table \"%1\" cannot be changed together with other changes, because "
+                     "\"%2\" points to it.")
+          .arg(table, children.first()));
+}
+
 }  // namespace
 
 void RebuildTable(sqlite3* handle, const Translation::Rebuild& change) {
+  CheckPointers(handle, change.table);
   const Unwatched unwatched(handle);
   RunSql(handle, QStringLiteral("SAVEPOINT rebuild"));
   try {

@@ -97,10 +97,25 @@ TEST_F(LayoutTest, ARebuiltTableKeepsTheRowsThatPointToIt) {
       "(ParentID INTEGER REFERENCES Parent (ID) ON DELETE CASCADE)");
   Run("INSERT INTO Parent (Name) VALUES ('one')");
   Run("INSERT INTO Child VALUES(1)");
+  {
+    const Batch batch(connection);
+    EXPECT_EQ(Refusal("ALTER TABLE Parent ALTER COLUMN Name TEXT(9)"), errors::Database);
+  }
   Run("ALTER TABLE Parent ALTER COLUMN Name TEXT(9)");
   EXPECT_EQ(Raw("SELECT COUNT(*) FROM Child"), "1");
   Run("DELETE FROM Parent");
   EXPECT_EQ(Raw("SELECT COUNT(*) FROM Child"), "0");
+}
+
+TEST_F(LayoutTest, ATableIsRebuiltWithinABatchAndGivenUpWithIt) {
+  {
+    Batch batch(connection);
+    Run("ALTER TABLE Games ALTER COLUMN Code VARCHAR(2)");
+    Run("UPDATE Games SET Code = 'AM'");
+    batch.Rollback();
+  }
+  EXPECT_EQ(Columns("Games"), "Court TEXT(3), Code VARCHAR(1), Points INTEGER");
+  EXPECT_EQ(Raw("SELECT group_concat(Code, '') FROM Games"), "MMM");
 }
 
 TEST_F(LayoutTest, TablesAndIndexesGoByDrop) {

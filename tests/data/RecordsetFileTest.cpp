@@ -190,6 +190,27 @@ TEST_F(RecordsetFile, WordsAgainstTheTypeComeAsTheyAre) {
   EXPECT_EQ(rows["Wins"], Value("many"));
 }
 
+TEST_F(RecordsetFile, APaddedTextOfAnotherProgramReadsAndComparesWithoutItsBlanks) {
+  Run("CREATE TABLE Settings (ID INTEGER, Setting CHAR(20))");
+  Raw("INSERT INTO Settings VALUES (0, '11.17               ')");
+  OpenTeams("SELECT * FROM Settings WHERE Setting = '11.17'");
+  EXPECT_EQ(rows["Setting"], Value("11.17"));
+  rows.Find("Setting = '11.17'");
+  EXPECT_FALSE(rows.AtEnd());
+}
+
+TEST_F(RecordsetFile, WritingAfterTheConnectionWasClosedIsRefused) {
+  OpenTeams();
+  rows.Set("Team", "Elms");
+  connection.Close();
+  EXPECT_THROW(rows.Update(), Error);
+  EXPECT_THROW(rows.Delete(), Error);
+  EXPECT_TRUE(rows.IsEditing());
+  rows.CancelUpdate();
+  EXPECT_THROW(rows.Requery(), Error);
+  EXPECT_EQ(rows.RecordCount(), 3);
+}
+
 TEST_F(RecordsetFile, AClosedOneRefusesAndCanBeOpenedAgain) {
   OpenTeams();
   rows.Close();
