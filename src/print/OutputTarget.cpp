@@ -17,9 +17,24 @@ OutputTarget::OutputTarget(Kind kind) : kind_(kind) {
   document_.pages.append(Page{});
 }
 
-void OutputTarget::MoveTo(int x, int y) {
+int OutputTarget::CurrentX() const {
+  return behind_.isEmpty() ? x_ : x_ + tavrelin::TextWidth(behindFont_, behind_);
+}
+
+void OutputTarget::SetCurrentX(int x) {
   x_ = x;
+  behind_.clear();
+}
+
+void OutputTarget::MoveTo(int x, int y) {
+  SetCurrentX(x);
   y_ = y;
+}
+
+void OutputTarget::MoveBehind(const PageFont& font, const QString& text) {
+  SetCurrentX(CurrentX());
+  behind_ = text;
+  behindFont_ = font;
 }
 
 int OutputTarget::LineHeight() const {
@@ -37,7 +52,7 @@ double OutputTarget::SizeWithin(int width, const QString& text) const {
 }
 
 void OutputTarget::Put(int y, const PageFont& font, const QString& text) {
-  if (!text.isEmpty()) ThisPage().marks.append(TextMark{x_, y, text, font, 0});
+  if (!text.isEmpty()) ThisPage().marks.append(TextMark{CurrentX(), y, text, font, 0});
 }
 
 void OutputTarget::Print(const QString& text) {
@@ -47,11 +62,11 @@ void OutputTarget::Print(const QString& text) {
 
 void OutputTarget::PrintOn(const QString& text) {
   Put(y_, font_, text);
-  x_ += TextWidth(text);
+  MoveBehind(font_, text);
 }
 
 void OutputTarget::PrintAt(int x, const QString& text) {
-  x_ = x;
+  SetCurrentX(x);
   PrintOn(text);
 }
 
@@ -60,11 +75,11 @@ void OutputTarget::PrintWithin(int width, const QString& text) {
   smaller.size = SizeWithin(width, text);
   if (smaller == font_) return PrintOn(text);
   Put(y_ + Ascent(font_) - Ascent(smaller), smaller, text);
-  x_ += tavrelin::TextWidth(smaller, text);
+  MoveBehind(smaller, text);
 }
 
 void OutputTarget::PrintTurned(int angle, const PageFont& font, const QString& text) {
-  if (!text.isEmpty()) ThisPage().marks.append(TextMark{x_, y_, text, font, angle});
+  if (!text.isEmpty()) ThisPage().marks.append(TextMark{CurrentX(), y_, text, font, angle});
 }
 
 void OutputTarget::Line(int x1, int y1, int x2, int y2) {

@@ -26,9 +26,9 @@ class OutputTarget {
 
   // Position and font
 
-  int CurrentX() const { return x_; }
+  int CurrentX() const;
   int CurrentY() const { return y_; }
-  void SetCurrentX(int x) { x_ = x; }
+  void SetCurrentX(int x);
   void SetCurrentY(int y) { y_ = y; }
   void MoveTo(int x, int y);
 
@@ -79,13 +79,16 @@ class OutputTarget {
  private:
   Page& ThisPage() { return document_.pages.last(); }
   void Put(int y, const PageFont& font, const QString& text);
+  void MoveBehind(const PageFont& font, const QString& text);
 
   Kind kind_;
   Document document_;
   PageFont font_;
   Orientation orientation_ = Orientation::Portrait;
-  int x_ = 0;
+  int x_ = 0;  ///< where `behind_` begins
   int y_ = 0;
+  QString behind_;  ///< text that CurrentX stands behind; measured only if somebody asks
+  PageFont behindFont_;
   int drawWidth_ = 1;
 };
 
