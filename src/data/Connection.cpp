@@ -12,14 +12,13 @@
 #include "data/CommitGuard.h"
 #include "data/ConnectionParts.h"
 #include "data/DataSource.h"
+#include "data/Schema.h"
 #include "data/SqlFunctions.h"
 #include "data/TableRebuild.h"
 
 namespace tavrelin {
 namespace {
 
-constexpr qint64 kClubMark = 0x5456524C;  // "TVRL"
-constexpr qint64 kFileFormat = 1;
 constexpr int kWaitMilliseconds = 3000;
 constexpr size_t kKeptStatements = 60;
 
@@ -66,10 +65,10 @@ qint64 AskNumber(sqlite3* handle, const char* pragma) {
 
 void CheckMark(sqlite3* handle, const QString& path) {
   const qint64 mark = AskNumber(handle, "application_id");
-  if (mark != 0 && mark != kClubMark) {
+  if (mark != 0 && mark != ClubApplicationId) {
     RefuseFile(path, QStringLiteral("belongs to another program. Choose a club's file."));
   }
-  if (AskNumber(handle, "user_version") > kFileFormat) {
+  if (AskNumber(handle, "user_version") > ClubFileFormat) {
     RefuseFile(path,
                QStringLiteral("was made by a newer program. Install the newest version to open "
                               "it."));
