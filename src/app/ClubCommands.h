@@ -1,0 +1,10 @@
+#pragma once
+
+#include "app/CommandLine.h"
+
+namespace tavrelin {
+
+/// Commands about the club's file as a whole: new, check, sample.
+QList<Command> ClubCommands();
+
+}  // namespace tavrelin

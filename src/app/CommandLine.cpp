@@ -1,0 +1,116 @@
+#include "app/CommandLine.h"
+
+#include <cmath>
+#include <QFileInfo>
+#include <QLocale>
+#include <QTextStream>
+
+#include "basic/Conversions.h"
+#include "basic/Error.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+
+namespace tavrelin {
+namespace {
+
+constexpr QLatin1String Help("--help");
+
+void ListCommands(const QList<Command>& commands, QTextStream& out) {
+  out << "Usage: tavrelinctl COMMAND ARGUMENTS\n\n";
+  qsizetype width = 0;
+  for (const Command& command : commands) width = std::max(width, command.usage.size());
+  for (const Command& command : commands) {
+    out << "  " << command.usage.leftJustified(width) << "  " << command.purpose << '\n';
+  }
+  out << "\nTables are written with tabs between the cells and a header line. Exit code: 0 done, "
+         "1 refused, 2 wrong usage.\n";
+}
+
+void TellUsage(const Command& command, QTextStream& out) {
+  out << "Usage: tavrelinctl " << command.usage << '\n' << command.purpose << '\n';
+}
+
+int RunCommand(const Command& command, const QStringList& arguments, QTextStream& out,
+               QTextStream& err) {
+  try {
+    if (arguments.size() < command.least || arguments.size() > command.most) throw WrongUsage();
+    return command.run(arguments, out, err);
+  } catch (const WrongUsage&) {
+    TellUsage(command, err);
+    return exits::WrongUsage;
+  } catch (const Error& error) {
+    err << error.description() << '\n';
+  } catch (const std::exception& failure) {
+    err << QString::fromUtf8(failure.what()) << '\n';
+  }
+  return exits::Refused;
+}
+
+}  // namespace
+
+int RunCommandLine(const QList<Command>& commands, const QStringList& arguments, QTextStream& out,
+                   QTextStream& err) {
+  if (arguments.isEmpty()) {
+    ListCommands(commands, err);
+    return exits::WrongUsage;
+  }
+  if (arguments[0] == Help) {
+    ListCommands(commands, out);
+    return exits::Done;
+  }
+  for (const Command& command : commands) {
+    if (command.name != arguments[0]) continue;
+    if (!arguments.contains(Help)) return RunCommand(command, arguments.sliced(1), out, err);
+    TellUsage(command, out);
+    return exits::Done;
+  }
+  err << "There is no command \"" << arguments[0] << "\".\n\n";
+  ListCommands(commands, err);
+  return exits::WrongUsage;
+}
+
+TextTable::TextTable(QTextStream& out, const QStringList& header) : out_(out) {
+  out_ << header.join(QLatin1Char('\t')) << '\n';
+}
+
+void TextTable::Row(const QList<Value>& cells) {
+  QStringList texts;
+  for (const Value& cell : cells) texts += PlainText(cell);
+  out_ << texts.join(QLatin1Char('\t')) << '\n';
+}
+
+QString PlainText(const Value& value) {
+  if (value.kind() == Value::Kind::Date) return StoredDate(value.ToDate());
+  if (value.kind() == Value::Kind::Floating) {
+    return QString::number(value.ToNumber(), 'f', QLocale::FloatingPointShortest);
+  }
+  QString text = value.ToText();
+  for (const char ending : {'\t', '\r', '\n'}) text.replace(QLatin1Char(ending), QLatin1Char(' '));
+  return text;
+}
+
+void WriteRecordset(QTextStream& out, const Recordset& rows, const QStringList& fields) {
+  QStringList header = fields;
+  if (header.isEmpty()) {
+    for (const Field& field : rows.Fields()) header += field.name;
+  }
+  QList<int> places;
+  for (const QString& name : header) {
+    places += rows.FieldIndex(name);
+    if (places.last() < 0) {
+      throw Error(errors::NoSuchField, QStringLiteral("There is no field \"%1\".").arg(name));
+    }
+  }
+  TextTable table(out, header);
+  for (int position = 1; position <= rows.RecordCount(); ++position) {
+    QList<Value> cells;
+    for (const int place : places) cells += rows.CellAt(position, place);
+    table.Row(cells);
+  }
+}
+
+QString FileConnectString(const QString& file) {
+  return QStringLiteral("DBQ=%1;").arg(QFileInfo(PlatformPath(file)).absoluteFilePath());
+}
+
+}  // namespace tavrelin

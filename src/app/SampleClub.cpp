@@ -1,0 +1,81 @@
+#include "app/SampleClub.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QHash>
+
+#include "app/Dice.h"
+#include "app/SampleRoster.h"
+#include "app/SampleTournaments.h"
+#include "basic/PlatformPath.h"
+#include "data/Connection.h"
+#include "data/NewFile.h"
+#include "data/Schema.h"
+
+namespace tavrelin {
+namespace {
+
+using Method = SampleClass::Scores;
+
+/// Doubles entrants count in teams, singles entrants in players; nobody plays twice.
+QList<SampleTournament> Plans() {
+  const QDate day = SampleDay();
+  return {
+      {"OH26041",
+       "Spring Thaw Open",
+       day.addDays(-35),
+       "Maple Creek",
+       "OH",
+       "Orville Kettlewick",
+       {{"A", "Men and Women A", 0, "P", "S", 8, OddEntrant::NotChosen, Method::All},
+        {"B", "Men and Women B", 0, "H", "S", 6, OddEntrant::NotChosen, Method::All},
+        {"C", "Class C", 80, "P", "S", 7, OddEntrant::Pacer, Method::All},
+        {"D1", "Doubles", 0, "R", "D", 6, OddEntrant::NotChosen, Method::All}}},
+      {"ON26052",
+       "Saint-Élan Invitational",
+       day.addDays(-21),
+       "Port Ansel",
+       "ON",
+       "Clémence Vérendelle",
+       {{"A", "Championship", 0, "R", "S", 10, OddEntrant::NotChosen, Method::All},
+        {"B", "Class B", 0, "O", "S", 5, OddEntrant::Bye, Method::All}}},
+      {"OH26067",
+       "Summer Solstice Classic",
+       day,
+       "Maple Creek",
+       "OH",
+       "Hazel O'Tavish",
+       {{"A", "Class A", 0, "P", "S", 12, OddEntrant::NotChosen, Method::Half},
+        {"B", "Class B", 80, "P", "S", 7, OddEntrant::NotChosen, Method::Unpaired}}},
+  };
+}
+
+void FillClub(Connection& connection, unsigned seed) {
+  Batch batch(connection);
+  Dice dice(seed);
+  const QList<SamplePlayer> players = AddSamplePlayers(connection, dice);
+  const QList<SampleTeam> teams = AddSampleTeams(connection, players);
+  for (const SampleTournament& plan : Plans()) {
+    AddSampleTournament(connection, dice, plan, players, teams);
+  }
+  batch.Commit();
+}
+
+}  // namespace
+
+QDate SampleDay() {
+  return {SampleYear, 6, 6};
+}
+
+void MakeSampleClub(const QString& path, unsigned seed) {
+  NewFile file(QFileInfo(PlatformPath(path)).absoluteFilePath());
+  DeliverClubFile(file.WorkPath());
+  {
+    Connection connection;
+    connection.Open(QStringLiteral("DBQ=%1;").arg(file.WorkPath()));
+    FillClub(connection, seed);
+  }
+  file.TakePlace();
+}
+
+}  // namespace tavrelin

@@ -1,0 +1,189 @@
+#include "app/SampleTournaments.h"
+
+#include <QHash>
+#include <QSet>
+#include <utility>
+
+#include "app/Dice.h"
+#include "app/PitchedGame.h"
+#include "app/SampleRoster.h"
+#include "basic/Error.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "play/ClassLoad.h"
+#include "play/PlayFormat.h"
+#include "play/Ranking.h"
+#include "players/EntryAverage.h"
+
+namespace tavrelin {
+namespace {
+
+constexpr int ShoesAGame = 40;
+constexpr double Fee = 12.5;
+
+/// Everything that one tournament is made with.
+struct Work {
+  Connection& connection;
+  Dice& dice;
+  const SampleTournament& plan;
+  const QList<SamplePlayer>& players;
+  const QList<SampleTeam>& teams;
+  QHash<QString, const SamplePlayer*> byID;
+  QSet<QString> entered;
+};
+
+bool IsDoubles(const SampleClass& plan) {
+  return *plan.playFormat == 'D';
+}
+
+void AddClass(Work& work, const SampleClass& plan) {
+  work.connection.Execute(
+      "INSERT INTO TournamentClasses VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+      {work.plan.sanctionID, plan.id, plan.name, plan.handicapPct,
+       QDateTime(work.plan.date, QTime(8, 0)), ShoesAGame, plan.rankMethod, plan.playFormat,
+       *plan.id == 'A', 3, true, false});
+}
+
+/// The stronger partner stands first, and the team enters with the mean of both averages.
+void EnterTeams(Work& work, const SampleClass& plan) {
+  for (int i = 0; i < plan.entrants; ++i) {
+    const SampleTeam& team = work.teams[i];
+    SamplePlayer one = team.one;
+    SamplePlayer two = team.two;
+    double averageOne = EntryAverage(work.connection, one.id, one.category, work.plan.date);
+    double averageTwo = EntryAverage(work.connection, two.id, two.category, work.plan.date);
+    if (averageTwo > averageOne) {
+      std::swap(one, two);
+      std::swap(averageOne, averageTwo);
+    }
+    work.connection.Execute(
+        "INSERT INTO TournamentTeamEntrants (SanctionID, TeamID, Paid, RingerPercent, ClassID, "
+        "PlayerOneID, PlayerTwoID) VALUES (?, ?, ?, ?, ?, ?, ?)",
+        {work.plan.sanctionID, team.id, Fee, (averageOne + averageTwo) / 2, plan.id, one.id,
+         two.id});
+    work.entered << one.id << two.id;
+  }
+}
+
+/// About every third player who is not in yet: a tournament draws from the whole field.
+void EnterPlayers(Work& work, const SampleClass& plan) {
+  int missing = plan.entrants;
+  for (const SamplePlayer& player : work.players) {
+    if (missing == 0) return;
+    if (work.entered.contains(player.id) || work.dice.Below(3) != 0) continue;
+    work.connection.Execute(
+        "INSERT INTO TournamentEntrants (SanctionID, PlayerID, Paid, RingerPercent, ClassID) "
+        "VALUES "
+        "(?, ?, ?, ?, ?)",
+        {work.plan.sanctionID, player.id, Fee,
+         EntryAverage(work.connection, player.id, player.category, work.plan.date), plan.id});
+    work.entered << player.id;
+    --missing;
+  }
+}
+
+double SkillOf(const Work& work, const Recordset& games, const QString& thrower) {
+  const SamplePlayer* player = work.byID.value(games[thrower].ToText());
+  return player == nullptr ? 0 : player->skill;
+}
+
+void WriteSide(Recordset& games, const SideColumns& columns, int thrower,
+               const PitchedSide& pitched) {
+  games.Set(columns.points, games[columns.points].ToWhole() + pitched.points);
+  games.Set(columns.ringers[thrower], pitched.ringers);
+  if (!columns.singlePoints.isEmpty()) games.Set(columns.singlePoints, pitched.singlePoints);
+}
+
+/// Partners throw from opposite ends, each against the opponent at his end; their points add up.
+void ScoreGame(Work& work, Recordset& games, const PlayFormat& format) {
+  const auto& [one, two] = format.sides;
+  for (int thrower = 0; thrower < one.throwers.size(); ++thrower) {
+    const double skillOne = SkillOf(work, games, one.throwers[thrower]);
+    const double skillTwo = SkillOf(work, games, two.throwers[thrower]);
+    if (format.IsPacer(games[two.id].ToText())) {
+      WriteSide(games, one, thrower, PitchAlone(work.dice, skillOne, ShoesAGame));
+    } else if (format.IsPacer(games[one.id].ToText())) {
+      WriteSide(games, two, thrower, PitchAlone(work.dice, skillTwo, ShoesAGame));
+    } else {
+      const auto pitched = PitchGame(work.dice, {skillOne, skillTwo}, ShoesAGame);
+      WriteSide(games, one, thrower, pitched[0]);
+      WriteSide(games, two, thrower, pitched[1]);
+    }
+  }
+  games.Set("Approved", true);
+  games.Update();
+}
+
+void PlayClass(Work& work, const SampleClass& plan, const ClassRules& rules) {
+  const PairingChoice choice{LoadClass(work.connection, rules).courts, 1, plan.odd};
+  const QString refusal = CreatePairing(work.connection, rules, choice);
+  if (!refusal.isEmpty()) throw Error(errors::RecordState, refusal);
+  LoadedClass loaded = LoadClass(work.connection, rules);
+  const int games = loaded.games.RecordCount();
+  int left = plan.scores == SampleClass::Scores::Half ? games / 2 : games;
+  for (; left > 0; --left, loaded.games.MoveNext()) ScoreGame(work, loaded.games, rules.Format());
+}
+
+/// High games by thrower, which the standings do not carry.
+QHash<QString, double> HighGames(Work& work, const ClassRules& rules) {
+  const PlayFormat& format = rules.Format();
+  Recordset entries;
+  entries.Open(QStringLiteral("SELECT * FROM %1 WHERE SanctionID = ? AND ClassID = ?")
+                   .arg(format.entrantTable),
+               work.connection, Recordset::Lock::ReadOnly, {rules.sanctionID, rules.classID});
+  QHash<QString, double> high;
+  for (; !entries.AtEnd(); entries.MoveNext()) {
+    for (const ThrowerColumns& thrower : format.throwers) {
+      high[entries[thrower.id].ToText()] = entries[thrower.hiGame].ToNumber();
+    }
+  }
+  return high;
+}
+
+/// The results of a ranked class as they stand in the players' statistics.
+void PostClass(Work& work, const ClassRules& rules, Standings& standings) {
+  const QHash<QString, double> high = HighGames(work, rules);
+  const QList<ThrowerColumns>& throwers = rules.Format().throwers;
+  Recordset& rows = standings.rows;
+  for (int place = 1; !rows.AtEnd(); rows.MoveNext(), ++place) {
+    for (const ThrowerColumns& thrower : throwers) {
+      const QString id = rows[thrower.id].ToText();
+      const QString ringers =
+          thrower.ringers.isEmpty() ? QStringLiteral("Ringers") : thrower.ringers;
+      work.connection.Execute(
+          "INSERT INTO PlayerScores VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+          {rules.sanctionID, id, rows["Shoes"].ToWhole() / throwers.size(), rows[ringers],
+           work.byID.value(id)->category, rows["Won"], rows["Loss"], place, high.value(id),
+           rows["Points"], 0, rules.classID});
+    }
+  }
+}
+
+void RunClass(Work& work, const SampleClass& plan) {
+  AddClass(work, plan);
+  IsDoubles(plan) ? EnterTeams(work, plan) : EnterPlayers(work, plan);
+  if (plan.scores == SampleClass::Scores::Unpaired) return;
+  const auto rules = FindClass(work.connection, work.plan.sanctionID, plan.id);
+  PlayClass(work, plan, *rules);
+  Standings standings = RankTheClass(work.connection, *rules);
+  if (plan.scores == SampleClass::Scores::All) PostClass(work, *rules, standings);
+}
+
+}  // namespace
+
+void AddSampleTournament(Connection& connection, Dice& dice, const SampleTournament& plan,
+                         const QList<SamplePlayer>& players, const QList<SampleTeam>& teams) {
+  Work work{connection, dice, plan, players, teams, {}, {}};
+  for (const SamplePlayer& player : players) work.byID[player.id] = &player;
+  connection.Execute("INSERT INTO Tournaments VALUES(?, ?, ?, ?, ?, ?)",
+                     {plan.sanctionID, plan.name, plan.date, plan.city, plan.state, plan.director});
+  // Teams first: their players do not pitch singles as well.
+  for (const SampleClass& one : plan.classes) {
+    if (IsDoubles(one)) RunClass(work, one);
+  }
+  for (const SampleClass& one : plan.classes) {
+    if (!IsDoubles(one)) RunClass(work, one);
+  }
+}
+
+}  // namespace tavrelin
