@@ -1,6 +1,8 @@
 #include "controls/CardView.h"
 
+#include <QAbstractButton>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -22,7 +24,7 @@ constexpr int CompactChars = 9;
 }  // namespace
 
 CardView::CardView(GridCore& core, GridKeys& keys, QWidget* parent)
-    : QAbstractItemView(parent),
+    : QTableView(parent),
       core_(core),
       keys_(keys),
       mouse_(core),
@@ -34,6 +36,12 @@ CardView::CardView(GridCore& core, GridKeys& keys, QWidget* parent)
   setSelectionMode(SingleSelection);
   setTabKeyNavigation(false);
   setVerticalScrollMode(ScrollPerPixel);
+  horizontalHeader()->hide();
+  verticalHeader()->hide();
+  // The button in the corner of a table's headers stays behind when these are hidden.
+  for (auto* corner : findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+    corner->hide();
+  }
   LayOutFields();
 }
 
@@ -163,6 +171,11 @@ void CardView::updateGeometries() {
   horizontalScrollBar()->setPageStep(viewport()->width());
 }
 
+void CardView::scrollContentsBy(int dx, int dy) {
+  QAbstractItemView::scrollContentsBy(dx, dy);
+  viewport()->update();
+}
+
 void CardView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.fillRect(event->rect(), palette().color(QPalette::Window));
@@ -242,7 +255,7 @@ void CardView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void CardView::changeEvent(QEvent* event) {
-  QAbstractItemView::changeEvent(event);
+  QTableView::changeEvent(event);
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) LayOutFields();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QAbstractItemView>
+#include <QTableView>
 #include <vector>
 
 #include "controls/GridMouse.h"
@@ -13,8 +13,9 @@ class GridKeys;
 
 /// The card view of a grid: each record is a card that shows its fields under each other, captions
 /// at the left; cards flow over the width of the window. Compact columns share a line, two by two.
-/// Cells are edited as in the table.
-class CardView : public QAbstractItemView {
+/// Cells are edited as in the table, and to a screen reader the cards are one: that is what it
+/// takes from QTableView.
+class CardView : public QTableView {
   Q_OBJECT
 
  public:
@@ -36,6 +37,7 @@ class CardView : public QAbstractItemView {
   void setSelection(const QRect&, QItemSelectionModel::SelectionFlags) override {}
   QRegion visualRegionForSelection(const QItemSelection&) const override { return {}; }
   void updateGeometries() override;
+  void scrollContentsBy(int dx, int dy) override;
 
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;

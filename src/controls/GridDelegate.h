@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QPointer>
 #include <QStyledItemDelegate>
 
@@ -8,6 +9,12 @@ class QLineEdit;
 namespace tavrelin {
 
 class GridCore;
+
+/// How one cell is to be painted.
+struct CellLook {
+  bool currentRow = false, currentCell = false, wholeRow = false, focus = false;
+  QColor paper, ink;
+};
 
 /// Paints the cells of a grid, in the table and on the cards alike, and opens the editor that a
 /// column asks for.
@@ -46,7 +53,7 @@ class GridDelegate : public QStyledItemDelegate {
   bool Leave(QKeyEvent* event);
   bool Filter(QLineEdit* line, QKeyEvent* event);
   void PaintContent(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
-                    const QColor& ink) const;
+                    const CellLook& look) const;
   void PaintText(QPainter& painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const;
   QWidget* CreateList(QWidget* parent, const QModelIndex& index) const;

@@ -90,6 +90,7 @@ void GridEX::SetColumns(const QList<GridColumn>& columns) {
   core_->groups.clear();
   core_->sortKeys.clear();
   core_->model.SetColumns(columns);
+  if (core_->model.Bound()) core_->LayOut();
   widgets_->table->LayOutColumns();
   widgets_->cards->LayOutFields();
 }
@@ -109,8 +110,13 @@ QString GridEX::ColumnKey(int col) const {
 void GridEX::Change(const QString& key, const std::function<void(GridColumn&)>& change) {
   const int number = ColumnNumber(key);
   if (number == 0) return;
+  const GridColumn before = Columns()[number - 1];
   core_->model.Change(number, change);
-  widgets_->table->LayOutColumns();
+  const GridColumn& after = Columns()[number - 1];
+  // Widths that the operator gave the columns outlive all other changes.
+  const bool layout = before.caption != after.caption || before.visible != after.visible ||
+                      before.width != after.width;
+  if (layout) widgets_->table->LayOutColumns();
   widgets_->cards->LayOutFields();
   const int stop = core_->Column();
   if (stop > 0 && !Columns()[stop - 1].visible) SetCol(stop);

@@ -34,7 +34,7 @@ struct RowCheck;
 /// out of the grid behind the last, Ctrl+Tab out at once; typing, F2 or Backspace edit; Enter takes
 /// the row over and goes down, or to a fresh new row; Insert goes to the new-record row; Delete on
 /// the row selector deletes the row, on a cell empties it; F4 and Alt+Down open a list or calendar;
-/// Space toggles a check box.
+/// Space toggles a check box; the menu key sorts, groups, adds and deletes.
 ///
 /// **Ownership.** The recordset belongs to the screen and must outlive its binding: call
 /// SetRecordset(nullptr) before it is closed or dropped. Its cursor follows the grid's row; the

@@ -114,7 +114,7 @@ void GridModel::AddHeadings(const QList<int>& groups) {
 }
 
 QString GridModel::HeadingText(int line, int number, int members) const {
-  const QString text = CellText(line, number);
+  const QString text = SpokenText(line, number);
   return QStringLiteral("%1: %2  (%3)")
       .arg(SpokenCaption(number), text.trimmed().isEmpty() ? tr("(blank)") : text)
       .arg(members);

@@ -1,11 +1,11 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QTableView>
 #include <QToolTip>
 
 #include "controls/GridCore.h"
 #include "controls/GridDelegate.h"
+#include "controls/GridView.h"
 
 namespace tavrelin {
 
@@ -19,14 +19,9 @@ QColor Blend(const QColor& base, const QColor& ink, int percent) {
                 mix(base.blue(), ink.blue()));
 }
 
-/// How one cell is to be painted.
-struct Look {
-  bool currentRow, currentCell, wholeRow, focus;
-  QColor paper, ink;
-};
-
-Look LookOf(const GridCore& core, const QStyleOptionViewItem& option, const QModelIndex& index) {
-  Look look{};
+CellLook LookOf(const GridCore& core, const QStyleOptionViewItem& option,
+                const QModelIndex& index) {
+  CellLook look{};
   const QPalette& palette = option.palette;
   const QColor base = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
   const QColor accent = palette.color(QPalette::Highlight);
@@ -35,7 +30,7 @@ Look LookOf(const GridCore& core, const QStyleOptionViewItem& option, const QMod
   look.wholeRow = look.currentRow && core.Column() == 0;
   look.currentCell = look.currentRow && !look.wholeRow && index.column() == core.Column();
   look.ink = text;
-  const bool table = qobject_cast<const QTableView*>(option.widget);
+  const bool table = qobject_cast<const GridView*>(option.widget);
   look.paper = index.row() % 2 == 0 || !table ? base : Blend(base, text, 4);
   if (!table && index.column() > 0 && !look.currentCell) return look;
   if (look.currentCell) {
@@ -71,7 +66,7 @@ void PaintPlus(QPainter& painter, const QRectF& box) {
 }
 
 // The row selector tells by its shape what the row is: here, being changed, new.
-void PaintSelector(QPainter& painter, const QRect& cell, const GridCore& core, const Look& look,
+void PaintSelector(QPainter& painter, const QRect& cell, const GridCore& core, const CellLook& look,
                    int line) {
   const double side = qMin(cell.width(), cell.height()) * 0.42;
   QRectF box(0, 0, side, side);
@@ -88,16 +83,22 @@ void PaintSelector(QPainter& painter, const QRect& cell, const GridCore& core, c
   }
 }
 
-void PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, bool checked,
-                   bool enabled) {
-  QStyleOptionButton box;
-  const int side = qMin(option.rect.height() - 10, 20);
-  box.rect = QRect(0, 0, side, side);
-  box.rect.moveCenter(option.rect.center());
-  box.palette = option.palette;
-  box.state = checked ? QStyle::State_On : QStyle::State_Off;
-  if (enabled) box.state |= QStyle::State_Enabled;
-  QApplication::style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
+// Drawn in the color of the text: the platform's own box is lost on a dark grid.
+void PaintCheckBox(QPainter& painter, const QRect& cell, bool checked, bool enabled,
+                   const CellLook& look) {
+  const double side = qMin(cell.height() - 12, 20);
+  QRectF box(0, 0, side, side);
+  box.moveCenter(QRectF(cell).center());
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Blend(look.paper, look.ink, enabled ? 70 : 40), 1.5));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(box, 3, 3);
+  if (!checked) return;
+  const double x = box.left(), y = box.top(), unit = side / 10;
+  painter.setPen(QPen(look.ink, unit * 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({{x + 2.2 * unit, y + 5.2 * unit},
+                                  {x + 4.2 * unit, y + 7.4 * unit},
+                                  {x + 7.8 * unit, y + 2.8 * unit}}));
 }
 
 void PaintCross(QPainter& painter, const QRect& cell, const QColor& ink) {
@@ -120,7 +121,7 @@ void PaintRules(QPainter& painter, const QRect& cell, const QColor& color, bool 
 // A text that runs over all cells of a line: each cell shows its own piece of it.
 void PaintAcross(QPainter& painter, const QStyleOptionViewItem& option, const QString& text,
                  bool bold) {
-  const auto* table = qobject_cast<const QTableView*>(option.widget);
+  const auto* table = qobject_cast<const GridView*>(option.widget);
   if (!table) return;
   const int left = table->columnViewportPosition(0) + table->columnWidth(0) + Margin;
   QFont font = option.font;
@@ -146,7 +147,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   const int line = index.row(), number = index.column();
   const GridModel& model = core_.model;
-  Look look = LookOf(core_, option, index);
+  CellLook look = LookOf(core_, option, index);
   const bool heading = model.Rows().RowAt(line) == 0;
   if (heading) look.paper = Blend(look.paper, look.ink, 14);
   painter->save();
@@ -162,10 +163,15 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(Blend(look.paper, look.ink, 65));
     PaintAcross(*painter, option, tr("New record: press Insert, or click here"), false);
   } else {
-    PaintContent(*painter, option, index, look.ink);
+    PaintContent(*painter, option, index, look);
+  }
+  if (qobject_cast<const GridView*>(option.widget)) {
+    const bool across = heading || (hint && number > 0);
+    PaintRules(*painter, option.rect, Blend(option.palette.color(QPalette::Base), look.ink, 18),
+               !across);
   }
   if (look.currentCell) {
-    const int width = look.focus ? 3 : 1;
+    const int width = look.focus ? 3 : 2;
     painter->setRenderHint(QPainter::Antialiasing, false);
     painter->setBrush(Qt::NoBrush);
     QPen pen(option.palette.color(QPalette::Highlight), width);
@@ -174,17 +180,12 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawRect(
         option.rect.adjusted(width / 2, width / 2, -(width + 1) / 2, -(width + 1) / 2));
   }
-  if (qobject_cast<const QTableView*>(option.widget)) {
-    const bool across = heading || (hint && number > 0);
-    PaintRules(*painter, option.rect, Blend(option.palette.color(QPalette::Base), look.ink, 18),
-               !across);
-  }
   painter->restore();
 }
 
 void GridDelegate::PaintCardHead(QPainter* painter, const QStyleOptionViewItem& option,
                                  int line) const {
-  const Look look = LookOf(core_, option, core_.model.index(line, 0));
+  const CellLook look = LookOf(core_, option, core_.model.index(line, 0));
   const QColor paper = look.wholeRow && look.focus ? look.paper : Blend(look.paper, look.ink, 10);
   painter->save();
   painter->fillRect(option.rect, paper);
@@ -213,7 +214,7 @@ bool GridDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
 }
 
 void GridDelegate::PaintContent(QPainter& painter, const QStyleOptionViewItem& option,
-                                const QModelIndex& index, const QColor& ink) const {
+                                const QModelIndex& index, const CellLook& look) const {
   const int line = index.row(), number = index.column();
   const GridColumn& column = core_.model.Column(number);
   if (column.icon) {
@@ -223,11 +224,11 @@ void GridDelegate::PaintContent(QPainter& painter, const QStyleOptionViewItem& o
     box.moveCenter(option.rect.center());
     core_.model.Icons()[icon - 1].icon.paint(&painter, box);
   } else if (column.editor == CellEditor::CheckBox) {
-    PaintCheckBox(painter, option, core_.model.IsChecked(line, number),
-                  core_.MayEdit(line, number));
+    PaintCheckBox(painter, option.rect, core_.model.IsChecked(line, number),
+                  core_.MayEdit(line, number), look);
   } else if (column.editor == CellEditor::Delete) {
     if (core_.allowDelete && !core_.model.Rows().IsNewRow(line)) {
-      PaintCross(painter, option.rect, ink);
+      PaintCross(painter, option.rect, look.ink);
     }
   } else {
     PaintText(painter, option, index);

@@ -46,7 +46,9 @@ void GroupBox::FillMenu() {
   add_->menu()->clear();
   for (int number : core_.model.VisibleColumns()) {
     const QString key = core_.model.Column(number).Key();
-    if (key.isEmpty() || core_.groups.contains(key, Qt::CaseInsensitive)) continue;
+    const bool groups =
+        !core_.model.Column(number).icon && !core_.model.Column(number).field.isEmpty();
+    if (!groups || core_.groups.contains(key, Qt::CaseInsensitive)) continue;
     add_->menu()->addAction(Caption(core_, number), this,
                             [this, key] { core_.face.AddGroup(key); });
   }

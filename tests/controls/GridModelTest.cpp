@@ -169,6 +169,22 @@ TEST_F(GridModelTest, AFailingFetchShowsOneErrorAndTheGridGoesOn) {
   EXPECT_EQ(grid.TextAt(1, "FirstName"), "Ann");
 }
 
+TEST_F(GridModelTest, AWidthThatTheOperatorGaveOutlivesTheScreensChanges) {
+  table.setColumnWidth(3, 321);
+  grid.SetSelectable("FirstName", false);
+  grid.SetDefault("LastName", "Doe");
+  grid.SetValueList("CardNumber", {{"900", "Nine hundred"}});
+  EXPECT_EQ(table.columnWidth(3), 321);
+}
+
+TEST_F(GridModelTest, TheFillingColumnTakesTheRoomThatIsLeft) {
+  QList<GridColumn> columns = PlayerColumns();
+  columns[2].fill = true;
+  grid.SetColumns(columns);
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(table.horizontalHeader()->length(), table.viewport()->width());
+}
+
 struct GridOrderTest : GridModelTest {};
 
 TEST_F(GridOrderTest, ATextThatSortsAsANumberIsInTheOrderOfItsNumbers) {
@@ -238,24 +254,6 @@ TEST_F(GridOrderTest, RebindShowsWhatTheRecordsetHoldsNow) {
   EXPECT_FALSE(grid.MoveToBookmark(12345));
 }
 
-TEST(GridAccessTest, AScreenReaderHearsTableRowsColumnsAndCells) {
-  GridBench bench;
-  auto* table = bench.window.findChild<QTableView*>("GridEX1_Table");
-  QAccessibleInterface* face = QAccessible::queryAccessibleInterface(table);
-  ASSERT_TRUE(face);
-  EXPECT_EQ(face->text(QAccessible::Name), "Players");
-  QAccessibleTableInterface* cells = face->tableInterface();
-  ASSERT_TRUE(cells);
-  EXPECT_EQ(cells->columnDescription(3), "Last");
-  EXPECT_EQ(cells->rowDescription(2), "2");
-  EXPECT_EQ(cells->cellAt(2, 3)->text(QAccessible::Name), "Baker");
-  EXPECT_EQ(cells->cellAt(2, 4)->text(QAccessible::Name), "Provisional");
-  EXPECT_EQ(cells->cellAt(2, 7)->text(QAccessible::Name), "33.34");
-  EXPECT_EQ(cells->cellAt(2, 8)->text(QAccessible::Name), "not checked");
-  EXPECT_TRUE(cells->cellAt(2, 0)->text(QAccessible::Name).startsWith("First Bob, Last Baker"));
-  EXPECT_TRUE(cells->cellAt(0, 0)->text(QAccessible::Name).startsWith("New record"));
-}
-
 Recordset ManyPlayers(int count) {
   Recordset rows;
   rows.Append("LastName", FieldType::Text, 25);
@@ -272,6 +270,39 @@ Recordset ManyPlayers(int count) {
   }
   rows.MoveFirst();
   return rows;
+}
+
+TEST(GridScrollTest, RebindingLeavesTheRowsWhereTheyAre) {
+  GridBench bench(ManyPlayers(1000), {{.caption = "Last", .field = "LastName"}});
+  auto* table = bench.window.findChild<QTableView*>("GridEX1_Table");
+  QApplication::processEvents();
+  bench.grid->SetRow(500);
+  const int first = table->rowAt(0);
+  EXPECT_GT(first, 400);
+  bench.grid->Rebind();
+  QApplication::processEvents();
+  EXPECT_EQ(table->rowAt(0), first);
+  EXPECT_EQ(bench.grid->Row(), 500);
+  bench.grid->EnsureVisible(1);
+  EXPECT_EQ(table->rowAt(0), 1);
+}
+
+TEST(GridAccessTest, AScreenReaderHearsTableRowsColumnsAndCells) {
+  GridBench bench;
+  auto* table = bench.window.findChild<QTableView*>("GridEX1_Table");
+  QAccessibleInterface* face = QAccessible::queryAccessibleInterface(table);
+  ASSERT_TRUE(face);
+  EXPECT_EQ(face->text(QAccessible::Name), "Players");
+  QAccessibleTableInterface* cells = face->tableInterface();
+  ASSERT_TRUE(cells);
+  EXPECT_EQ(cells->columnDescription(3), "Last");
+  EXPECT_EQ(cells->rowDescription(2), "2");
+  EXPECT_EQ(cells->cellAt(2, 3)->text(QAccessible::Name), "Baker");
+  EXPECT_EQ(cells->cellAt(2, 4)->text(QAccessible::Name), "Provisional");
+  EXPECT_EQ(cells->cellAt(2, 7)->text(QAccessible::Name), "33.34");
+  EXPECT_EQ(cells->cellAt(2, 8)->text(QAccessible::Name), "not checked");
+  EXPECT_TRUE(cells->cellAt(2, 0)->text(QAccessible::Name).startsWith("First Bob, Last Baker"));
+  EXPECT_TRUE(cells->cellAt(0, 0)->text(QAccessible::Name).startsWith("New record"));
 }
 
 TEST(GridSpeedTest, FiftyThousandRowsScrollSortAndSearchWithoutAPause) {
