@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "data/Connection.h"
 #include "shell/MessageBar.h"
 
 namespace tavrelin {
@@ -85,6 +86,19 @@ TEST(ScreenBench, LeavingAndReturningRunsTheScreensOwnEvents) {
   EXPECT_EQ(screen.shows, 2);
   EXPECT_EQ(screen.hides, 1);
   EXPECT_FALSE(bench.person.busy);
+}
+
+TEST(ScreenBench, GivesEachTestANewClubOfItsOwn) {
+  for (int test = 0; test < 2; ++test) {
+    ScreenBench bench;
+    Connection connection;
+    connection.Open(ConnectString);
+    EXPECT_EQ(connection.FilePath(), bench.ClubFile());
+    EXPECT_EQ(connection.Execute("UPDATE SystemSettings SET SettingValue = 'Y' "
+                                 "WHERE SettingID = 10 AND SettingValue <> 'Y'"),
+              1);
+  }
+  EXPECT_EQ(ConnectString, "");
 }
 
 TEST(ScreenBench, AnUnexpectedQuestionFailsTheTestAndIsAnsweredNo) {

@@ -116,7 +116,7 @@ TEST_F(frmErrorTest, ADialogThatGrowsOverTheScreensEndIsCentered) {
   const int screenHeight = dialog->screen()->size().height();
   dialog->move(dialog->x(), screenHeight - 200);
   bench.Click("cmdDetails");
-  EXPECT_EQ(dialog->y(), (screenHeight - 423) / 2);
+  EXPECT_EQ(dialog->y(), qMax(0, (screenHeight - 423) / 2));
 }
 
 TEST_F(frmErrorTest, ALargeFontMakesTheDialogHigherThanCutItsTexts) {

@@ -5,11 +5,14 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QPalette>
 #include <QTest>
 #include <stdexcept>
 
+#include "data/Connection.h"
+#include "data/Schema.h"
 #include "shell/MessageBar.h"
 
 namespace tavrelin {
@@ -19,12 +22,26 @@ namespace {
 // What frmStartUp leaves a screen on a 1366 by 768 laptop, with the desktop's bar and its own.
 constexpr QSize ScreenSize(1150, 640);
 
+/// A new club's file, delivered once a process and copied after that.
+void CopyNewClub(const QString& path) {
+  static const QTemporaryDir folder;
+  static const QString original = folder.filePath(QStringLiteral("new.mdb"));
+  if (!QFile::exists(original)) DeliverClubFile(original);
+  ASSERT_TRUE(QFile::copy(original, path));
+}
+
 }  // namespace
 
-ScreenBench::ScreenBench() : store_(std::make_unique<Store>(PathOf(QStringLiteral("store.ini")))) {}
+ScreenBench::ScreenBench() : store_(std::make_unique<Store>(PathOf(QStringLiteral("store.ini")))) {
+  CopyNewClub(ClubFile());
+  DatabasePath = ClubFile();
+  ConnectString = ConnectStringFor(DatabasePath);
+}
 
 ScreenBench::~ScreenBench() {
   host_.reset();
+  ConnectString.clear();
+  DatabasePath.clear();
   EXPECT_EQ(person.Unused(), 0) << "answers were prepared that nobody asked for";
 }
 

@@ -12,7 +12,8 @@
 namespace tavrelin {
 
 /// Where a test drives a screen as a person does: by keys and clicks on controls found by name,
-/// with the outside world played by fakes. Everything is made anew for each bench, the store empty.
+/// with the outside world played by fakes. Everything is made anew for each bench: an empty store,
+/// a club file as the program delivers it, and ConnectString pointing to that file.
 /// At the end an error nobody took and an answer nobody asked for fail the test.
 ///
 ///     ScreenBench bench;
@@ -36,6 +37,7 @@ class ScreenBench {
   Surroundings around();
   /// A path in the bench's own folder, which goes when the bench ends.
   QString PathOf(const QString& name) const { return folder_.filePath(name); }
+  /// The club file of ConnectString.
   QString ClubFile() const { return PathOf(QStringLiteral("club.mdb")); }
 
   /// Makes a screen, the size it has on a 1366 by 768 laptop, and shows it. The bench owns it.

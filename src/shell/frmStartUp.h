@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "shell/Screen.h"
+#include "shell/Screens.h"
+
+namespace tavrelin {
+
+class Backdrop;
+class ButtonBar;
+class StartUp;
+
+/// The main window: button bar at the left, opening picture, and over it one screen at a time. It
+/// makes the screens once and hands them a place, visibility and nothing else; it knows nothing of
+/// what a screen does.
+class frmStartUp : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// All of `surroundings` and `startUp` must outlive the window.
+  frmStartUp(const Surroundings& surroundings, StartUp& startUp,
+             const QList<MakeScreen>& screens = AllScreens(), QWidget* parent = nullptr);
+  ~frmStartUp() override;
+
+  /// Starts the application up: makes the screens, chooses the database and brings it up to date.
+  /// `commandLine` is a database path for this run, or empty. No failure gets out of it.
+  void Form_Load(const QString& commandLine);
+
+  /// Opens at the size and place it was left with, if that place is still on a screen.
+  void ShowAsLeft();
+
+  /// The screen now shown, or the last one shown while a group header hides it; null before the
+  /// first button.
+  Screen* uctControls() const { return uctControls_; }
+  bool ModalActive() const { return modalActive_; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void bbMenu_GroupClick(const QString& group);
+  void bbMenu_ItemClick(const QString& group, const QString& item);
+  void uctControls_ModalBehavior(const Screen* sender, bool modal);
+  void uctControls_NextUserControl(const Screen* sender, const QString& name);
+  void Form_Resize();
+  void mnuExit_Click();
+  void mnuAbout_Click();
+  void mnuHelp_Click();
+  void mnuHelpDesk_Click();
+
+  void MakeMenu();
+  void MakeBar();
+  void MakeScreens();
+  void Listen(Screen* screen);
+  void SizePicture();
+  void HidePresentScreen();
+  void ShowScreen(const QString& name);
+  void FocusScreen();
+  void SwitchFocus();
+  void OpenDocument(const QUrl& address, const QString& sentence);
+
+  Surroundings surroundings_;
+  StartUp& startUp_;
+  QList<MakeScreen> makers_;
+  CSError errors_;
+  QWidget* inner_;
+  Backdrop* image1_;
+  ButtonBar* bbMenu_;
+  Screen* uctControls_ = nullptr;
+  bool modalActive_ = false;
+};
+
+}  // namespace tavrelin
