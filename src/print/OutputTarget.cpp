@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "print/Fonts.h"
+#include "shell/Twips.h"
 
 namespace tavrelin {
 
 namespace {
-constexpr int TwipsPerPixel = 15;
 constexpr double SmallestSize = 4;  // points; below that nobody reads a name
 }  // namespace
 
@@ -83,11 +83,11 @@ void OutputTarget::PrintTurned(int angle, const PageFont& font, const QString& t
 }
 
 void OutputTarget::Line(int x1, int y1, int x2, int y2) {
-  ThisPage().marks.append(LineMark{x1, y1, x2, y2, drawWidth_ * TwipsPerPixel, false});
+  ThisPage().marks.append(LineMark{x1, y1, x2, y2, TwipsOf(drawWidth_), false});
 }
 
 void OutputTarget::Box(int x1, int y1, int x2, int y2) {
-  ThisPage().marks.append(LineMark{x1, y1, x2, y2, drawWidth_ * TwipsPerPixel, true});
+  ThisPage().marks.append(LineMark{x1, y1, x2, y2, TwipsOf(drawWidth_), true});
 }
 
 void OutputTarget::SetOrientation(Orientation orientation) {

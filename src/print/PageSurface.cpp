@@ -3,11 +3,9 @@
 #include <QPainter>
 #include <QPaintEvent>
 
-namespace tavrelin {
+#include "shell/Twips.h"
 
-namespace {
-constexpr double TwipsPerPixel = 15;
-}
+namespace tavrelin {
 
 QSize PreviewPage(Orientation orientation) {
   return orientation == Orientation::Landscape ? QSize(1000, 800) : QSize(800, 1000);

@@ -15,12 +15,12 @@
 #include "print/PageSurface.h"
 #include "shell/MessageBar.h"
 #include "shell/Store.h"
+#include "shell/Twips.h"
 
 namespace tavrelin {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr int SmallestHeight = 240;
 constexpr int LineStep = 40;  // pixels that an arrow key scrolls
 constexpr double SmallestZoom = 0.25;
@@ -29,7 +29,7 @@ constexpr double ZoomStep = 1.25;
 const QString Section = QStringLiteral("frmReport");
 
 int Pixels(const Store& store, const QString& name, const QString& fallback) {
-  return qRound(Val(store.GetRegistryString(Section, name, fallback)) / TwipsPerPixel);
+  return PixelsOf(static_cast<int>(Val(store.GetRegistryString(Section, name, fallback))));
 }
 
 }  // namespace
@@ -213,7 +213,7 @@ void frmReport::Form_Load() {
 void frmReport::Form_Unload() {
   if (isMaximized() || size() == loaded_) return;
   const auto save = [this](const QString& name, int pixels) {
-    store_.SaveRegistryString(Section, name, QString::number(pixels * TwipsPerPixel));
+    store_.SaveRegistryString(Section, name, QString::number(TwipsOf(pixels)));
   };
   save(QStringLiteral("Height"), height());
   save(QStringLiteral("Width"), width());
