@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -213,6 +213,12 @@ TEST_F(SampleClubTest, TheSameSeedGivesTheSameFileAndAnotherSeedAnotherClub) {
 TEST_F(SampleClubTest, NeverTakesThePlaceOfAFile) {
   EXPECT_THROW(MakeSampleClub(folder->filePath("sample.mdb")), Error);
   EXPECT_EQ(db->Count("Players"), 120);
+}
+
+TEST_F(SampleClubTest, LeavesNothingBesideTheFile) {
+  MakeSampleClub(folder->filePath("alone/sample.mdb"));
+  EXPECT_EQ(QDir(folder->filePath("alone")).entryList(QDir::Files | QDir::Hidden),
+            QStringList{"sample.mdb"});
 }
 
 }  // namespace
