@@ -1,5 +1,6 @@
 #include "controls/GridEX.h"
 
+#include <QApplication>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
@@ -77,6 +78,7 @@ GridEX::GridEX(const QString& name, const QString& spokenName, GridGuard guard, 
 // The views go before the model and the cursor that they look at.
 GridEX::~GridEX() {
   core_->disconnect();
+  QObject::disconnect(qApp, nullptr, core_.get(), nullptr);
   core_->view = nullptr;
   core_->delegate = nullptr;
   delete widgets_->table;

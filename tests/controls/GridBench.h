@@ -84,10 +84,7 @@ struct GridBench {
       : rows(std::move(recordset)) {
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(before = new QLineEdit);
-    grid = new GridEX("GridEX1", "Players",
-                      [this](const char* procedure, const std::function<void()>& body) {
-                        return csError.Run(procedure, body);
-                      });
+    grid = new GridEX("GridEX1", "Players", Guard());
     layout->addWidget(grid, 1);
     layout->addWidget(after = new QLineEdit);
     grid->SetColumns(columns);
@@ -104,6 +101,11 @@ struct GridBench {
   // Unbound while the recordset is still there.
   ~GridBench() { grid->SetRecordset(nullptr); }
 
+  GridGuard Guard() {
+    return [this](const char* procedure, const std::function<void()>& body) {
+      return csError.Run(procedure, body);
+    };
+  }
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }

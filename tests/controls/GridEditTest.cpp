@@ -487,6 +487,24 @@ TEST_F(GridEditTest, AFieldThatCannotBeWrittenShowsWhatWasSetAndIsNotStored) {
   EXPECT_EQ(grid.TextAt(1, "Pct"), "");
 }
 
+TEST(GridEndTest, AGridThatEndsWithAnOpenCellSavesNothingAndRaisesNothing) {
+  int events = 0;
+  {
+    GridBench bench;
+    bench.grid->SetCol("LastName");
+    bench.Type("Zorn");
+    bench.grid->on.BeforeUpdate = [&](GridUpdate& update) {
+      ++events;
+      update.cancel = true;
+    };
+    bench.grid->on.LostFocus = [&] { ++events; };
+    delete bench.grid;
+    bench.grid = new GridEX("GridEX2", "Other", bench.Guard(), &bench.window);
+    bench.after->setFocus();
+  }
+  EXPECT_EQ(events, 0);
+}
+
 TEST_F(GridEditTest, UnboundTheGridShowsNoRows) {
   grid.SetRecordset(nullptr);
   EXPECT_EQ(grid.RowCount(), 0);
