@@ -1,15 +1,19 @@
 #include <cstdio>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextStream>
 
 #include "app/ClubCommands.h"
 #include "play/Commands.h"
+#include "play/ResultsCommand.h"
 
 int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
+  // Reports are laid out with typefaces, which the toolkit has without any display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
   QTextStream out(stdout);
   QTextStream err(stderr);
-  const QList<tavrelin::Command> commands = tavrelin::ClubCommands() + tavrelin::PlayCommands();
+  QList<tavrelin::Command> commands = tavrelin::ClubCommands() + tavrelin::PlayCommands();
+  commands << tavrelin::ResultsCommand();
   const int code =
       tavrelin::RunCommandLine(commands, QCoreApplication::arguments().sliced(1), out, err);
   out.flush();

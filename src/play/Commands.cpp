@@ -18,15 +18,6 @@ int Refuse(QTextStream& err, const QString& message) {
   return exits::Refused;
 }
 
-/// The class that the arguments FILE SANCTION CLASS name. The sanction number may have its dashes.
-ClassRules NamedClass(Connection& connection, const QStringList& arguments) {
-  const QString sanctionID = QString(arguments[1]).remove(u'-');
-  const std::optional<ClassRules> rules = FindClass(connection, sanctionID, arguments[2]);
-  if (rules) return *rules;
-  throw Error(errors::RecordState,
-              QStringLiteral("Tournament %1 has no class \"%2\"").arg(arguments[1], arguments[2]));
-}
-
 struct PairOptions {
   OddEntrant odd = OddEntrant::NotChosen;
   int rounds = 1;
@@ -148,6 +139,14 @@ int ShowStandings(const QStringList& arguments, QTextStream& out, QTextStream& e
 }
 
 }  // namespace
+
+ClassRules NamedClass(Connection& connection, const QStringList& arguments) {
+  const QString sanctionID = QString(arguments[1]).remove(u'-');
+  const std::optional<ClassRules> rules = FindClass(connection, sanctionID, arguments[2]);
+  if (rules) return *rules;
+  throw Error(errors::RecordState,
+              QStringLiteral("Tournament %1 has no class \"%2\"").arg(arguments[1], arguments[2]));
+}
 
 QList<Command> PlayCommands() {
   return {

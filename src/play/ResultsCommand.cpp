@@ -1,0 +1,109 @@
+#include "play/ResultsCommand.h"
+
+#include <optional>
+#include <QIODevice>
+#include <QTextStream>
+
+#include "basic/TextFile.h"
+#include "data/Connection.h"
+#include "play/ClassResults.h"
+#include "play/Commands.h"
+#include "play/Ranking.h"
+#include "play/ResultsSheet.h"
+#include "play/ResultsText.h"
+#include "print/OutputTarget.h"
+#include "print/PdfFile.h"
+
+namespace tavrelin {
+namespace {
+
+struct ResultsOptions {
+  ResultsChoice choice;
+  std::optional<QString> textFile;
+  std::optional<QString> pdfFile;
+};
+
+ResultsOptions ReadOptions(QStringList left) {
+  ResultsOptions options;
+  const auto file = [&left] {
+    if (left.isEmpty()) throw WrongUsage();
+    return left.takeFirst();
+  };
+  while (!left.isEmpty()) {
+    const QString option = left.takeFirst();
+    if (option == u"--brief") {
+      options.choice.brief = true;
+    } else if (option == u"--no-standings") {
+      options.choice.standings = false;
+    } else if (option == u"--no-box-scores") {
+      options.choice.boxScores = false;
+    } else if (option == u"--text") {
+      options.textFile = file();
+    } else if (option == u"--pdf") {
+      options.pdfFile = file();
+    } else {
+      throw WrongUsage();
+    }
+  }
+  if (options.textFile && options.pdfFile) throw WrongUsage();
+  return options;
+}
+
+void WriteText(const QString& file, const QString& text, QTextStream& out) {
+  if (file == u"-") {
+    out << text;
+  } else {
+    WriteTextFile(file, text);
+  }
+}
+
+void WriteSheet(const QString& file, const Document& document, QTextStream& out) {
+  if (file != u"-") return WritePdf(document, file);
+  out.flush();
+  const QByteArray bytes = PdfBytes(document);
+  if (out.device()->write(bytes) != bytes.size()) out.setStatus(QTextStream::WriteFailed);
+}
+
+int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+  const ResultsOptions options = ReadOptions(arguments.sliced(3));
+  if (!options.choice.standings && !options.choice.boxScores) {
+    err << "Check either Standings or Box Scores or both\n";
+    return exits::Refused;
+  }
+  Connection connection;
+  connection.OpenSnapshot(FileConnectString(arguments[0]));
+  Standings standings =
+      RankTheClass(connection, NamedClass(connection, arguments), {.honourOverride = true});
+  if (!standings.refusal.isEmpty()) {
+    err << standings.refusal << '\n';
+    return exits::Refused;
+  }
+  const ClassResults results = ReadResults(connection, standings);
+  if (!options.pdfFile) {
+    const QString text = ExportTheClass(results, options.choice);
+    WriteText(options.textFile.value_or(QStringLiteral("-")), text, out);
+    return exits::Done;
+  }
+  const int offset = ResultsVerticalOffset(connection);
+  const QString title = results.tournament + QStringLiteral(" - ") + results.className;
+  const Document document = Record(OutputTarget::Kind::Printer, title, [&](OutputTarget& target) {
+    PrintTheClass(target, results, options.choice, offset);
+  });
+  WriteSheet(*options.pdfFile, document, out);
+  return exits::Done;
+}
+
+}  // namespace
+
+Command ResultsCommand() {
+  return {QStringLiteral("results"),
+          QStringLiteral("results FILE SANCTION CLASS [--brief] [--no-standings] "
+                         "[--no-box-scores] [--text FILE|--pdf FILE]"),
+          QStringLiteral("Standings and box scores of a class as text or PDF; - is the standard "
+                         "output."),
+          3,
+          9,
+          WriteResultsOf};
+}
+
+}  // namespace tavrelin
