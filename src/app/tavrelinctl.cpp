@@ -6,10 +6,19 @@
 #include "play/Commands.h"
 #include "play/ResultsCommand.h"
 
+namespace {
+
+// What the toolkit has to say about a session without a display is not for a script's error stream.
+void KeepQuiet(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   // Reports are laid out with typefaces, which the toolkit has without any display.
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QtMessageHandler usual = qInstallMessageHandler(KeepQuiet);
   const QGuiApplication application(argc, argv);
+  qInstallMessageHandler(usual);
   QTextStream out(stdout);
   QTextStream err(stderr);
   QList<tavrelin::Command> commands = tavrelin::ClubCommands() + tavrelin::PlayCommands();
