@@ -3,6 +3,7 @@
 #include <QTextStream>
 
 #include "app/ClubCommands.h"
+#include "play/CardCommands.h"
 #include "play/Commands.h"
 #include "play/ResultsCommand.h"
 
@@ -14,17 +15,20 @@ void KeepQuiet(QtMsgType, const QMessageLogContext&, const QString&) {}
 }  // namespace
 
 int main(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
   // Reports are laid out with typefaces, which the toolkit has without any display.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QtMessageHandler usual = qInstallMessageHandler(KeepQuiet);
-  const QGuiApplication application(argc, argv);
+  int nameAlone = 1;  // the toolkit would take an option like --style for its own
+  const QGuiApplication application(nameAlone, argv);
   qInstallMessageHandler(usual);
   QTextStream out(stdout);
   QTextStream err(stderr);
-  QList<tavrelin::Command> commands = tavrelin::ClubCommands() + tavrelin::PlayCommands();
+  QList<tavrelin::Command> commands =
+      tavrelin::ClubCommands() + tavrelin::PlayCommands() + tavrelin::CardCommands();
   commands << tavrelin::ResultsCommand();
-  const int code =
-      tavrelin::RunCommandLine(commands, QCoreApplication::arguments().sliced(1), out, err);
+  const int code = tavrelin::RunCommandLine(commands, arguments, out, err);
   out.flush();
   if (out.status() == QTextStream::Ok) return code;
   err << "The output could not be written.\n";

@@ -67,8 +67,10 @@ CardJob MakeCardJob(Connection& connection, const LoadedClass& loaded, const Car
   job.right = settings.RightShift();
   ReadTournament(connection, job, loaded.rules.sanctionID);
   if (job.procedure == CardProcedure::Worksheet) {
+    job.name = QStringLiteral("Round Robin Worksheet");
     AddLines(connection, job, loaded);
   } else {
+    job.name = QStringLiteral("Round Robin Cards");
     AddCards(connection, job, loaded, choice);
   }
   if (job.Prints() && hasFaces) job.nextFace = FaceAfter(choice.face, settings.backOnly);

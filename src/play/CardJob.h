@@ -27,6 +27,7 @@ struct CardChoice {
 /// Everything that goes on paper after the operator pressed Print, or why nothing does.
 struct CardJob {
   CardProcedure procedure = CardProcedure::OldMethod;
+  QString name;      ///< of the job in the print queue
   QString refusal;   ///< with a beep; empty when nothing stands against it
   GameRange range;   ///< its refusal is set when the box "to" must be mended
   QString title;     ///< of the question

@@ -1,17 +1,20 @@
 #pragma once
 
 #include <QList>
-
-#include "print/Document.h"
-#include "print/Layout.h"
+#include <QString>
 
 namespace tavrelin {
 
 struct Card;
 struct CardJob;
-struct CardLine;
 
 // Where everything stands on a card: twips, before the card is moved to its place on the sheet.
+
+/// A piece of a line.
+struct CardText {
+  int x;
+  QString text;
+};
 
 /// The grid of a card's back. Its rows stand `CardGrid::RowHeight` apart.
 struct CardGrid {
@@ -28,7 +31,7 @@ struct CardGrid {
 
   int right;
   QList<int> rules;  ///< verticals over the whole grid
-  QList<Column> headings;
+  QList<CardText> headings;
   int courtX;
   QList<int> slashX;  ///< between score and score, and ringers and ringers
   QList<int> byeX;    ///< one "X" a cell
@@ -36,12 +39,6 @@ struct CardGrid {
 
 const CardGrid& SinglesGrid();
 const CardGrid& DoublesGrid();
-
-/// A piece of a line.
-struct CardText {
-  int x;
-  QString text;
-};
 
 /// "3.Ann Stone"; for a team "3A.Ann Stone  B.Bob Hill".
 QString CardHeading(const Card& card);

@@ -120,8 +120,8 @@ void CardPrinter::Grid() {
   }
   target_.Line(X(CardGrid::GameRule), top, X(CardGrid::GameRule), Y(CardGrid::TotalsTop));
   for (const int x : grid_.rules) target_.Line(X(x), top, X(x), bottom);
-  for (const Column& column : grid_.headings) {
-    PrintAt(column.headingX, CardGrid::HeadingY, column.heading);
+  for (const CardText& heading : grid_.headings) {
+    PrintAt(heading.x, CardGrid::HeadingY, heading.text);
   }
   PrintAt(300, CardGrid::TotalsY, QStringLiteral("Totals"));
   PrintAt(1500, CardGrid::TotalsY, QStringLiteral("Wins:"));

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "play/CardLayout.h"
+#include "print/Document.h"
 
 namespace tavrelin {
 
 class OutputTarget;
+struct CardLine;
 
 /// Draws the faces of cards where the job's adjustments put them. What the styles do differently it
 /// is told: the paper, and what stands in the information line.

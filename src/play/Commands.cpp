@@ -2,6 +2,7 @@
 
 #include <QTextStream>
 
+#include "app/OptionReader.h"
 #include "basic/Error.h"
 #include "data/Connection.h"
 #include "play/Pairing.h"
@@ -22,21 +23,6 @@ struct PairOptions {
   OddEntrant odd = OddEntrant::NotChosen;
   int rounds = 1;
   std::optional<QStringList> courts;
-};
-
-/// Takes the options off their list one by one.
-class OptionReader {
- public:
-  explicit OptionReader(const QStringList& options) : left_(options) {}
-
-  bool AtEnd() const { return left_.isEmpty(); }
-  QString Next() {
-    if (left_.isEmpty()) throw WrongUsage();
-    return left_.takeFirst();
-  }
-
- private:
-  QStringList left_;
 };
 
 int RoundsFrom(const QString& text) {

@@ -1,9 +1,9 @@
 #include "play/ResultsCommand.h"
 
 #include <optional>
-#include <QIODevice>
 #include <QTextStream>
 
+#include "app/PdfOption.h"
 #include "basic/TextFile.h"
 #include "data/Connection.h"
 #include "play/ClassResults.h"
@@ -12,7 +12,6 @@
 #include "play/ResultsSheet.h"
 #include "play/ResultsText.h"
 #include "print/OutputTarget.h"
-#include "print/PdfFile.h"
 
 namespace tavrelin {
 namespace {
@@ -57,13 +56,6 @@ void WriteText(const QString& file, const QString& text, QTextStream& out) {
   }
 }
 
-void WriteSheet(const QString& file, const Document& document, QTextStream& out) {
-  if (file != u"-") return WritePdf(document, file);
-  out.flush();
-  const QByteArray bytes = PdfBytes(document);
-  if (out.device()->write(bytes) != bytes.size()) out.setStatus(QTextStream::WriteFailed);
-}
-
 int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& err) {
   const ResultsOptions options = ReadOptions(arguments.sliced(3));
   if (!options.choice.standings && !options.choice.boxScores) {
@@ -89,7 +81,7 @@ int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& 
   const Document document = Record(OutputTarget::Kind::Printer, title, [&](OutputTarget& target) {
     PrintTheClass(target, results, options.choice, offset);
   });
-  WriteSheet(*options.pdfFile, document, out);
+  SavePdf(document, *options.pdfFile, out);
   return exits::Done;
 }
 

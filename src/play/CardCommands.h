@@ -1,0 +1,10 @@
+#pragma once
+
+#include "app/CommandLine.h"
+
+namespace tavrelin {
+
+/// Commands that put a class on paper before it plays: cards, worksheet.
+QList<Command> CardCommands();
+
+}  // namespace tavrelin
