@@ -1,12 +1,17 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QPair>
 #include <QString>
 
 #include "basic/Value.h"
 
 namespace tavrelin {
+
+/// A row as it stands in the grid, by field name; a field that the grid does not show may be
+/// missing and reads null.
+using RowValues = QMap<QString, Value>;
 
 /// What a rule answers about a row that is about to be saved. The screen carries it out: writes the
 /// fixes into the row, shows the message, asks the question; it decides nothing.

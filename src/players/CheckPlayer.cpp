@@ -17,15 +17,15 @@ bool IsBlank(const Value& value) {
   return value.Trimmed().isEmpty();
 }
 
-void NullBecomesEmpty(RowCheck& check, const char* field, const Value& value) {
-  if (value.IsNull()) check.Fix(QLatin1String(field), QString());
+void NullBecomesEmpty(RowCheck& check, const char* field, const RowValues& row) {
+  if (row.value(field).IsNull()) check.Fix(field, QString());
 }
 
 /// The verdict on the names; Save when they stand.
-RowCheck CheckNames(const PlayerRow& row) {
+RowCheck CheckNames(const RowValues& row) {
   RowCheck check;
-  const QString last = row.lastName.Trimmed();
-  const QString first = row.firstName.Trimmed();
+  const QString last = row.value("LastName").Trimmed();
+  const QString first = row.value("FirstName").Trimmed();
   if (last.isEmpty() && first.isEmpty()) return check.Drop();
   if (last.isEmpty()) return check.Drop("Invalid last name changes not committed.");
   if (first.isEmpty()) return check.Drop("Invalid first name changes not committed.");
@@ -35,57 +35,58 @@ RowCheck CheckNames(const PlayerRow& row) {
 }
 
 /// Moves to another player with the same card; false when there is none.
-bool FindSameCard(const PlayerRow& row, Recordset& players) {
-  const QString card = row.cardNumber.Trimmed();
+bool FindSameCard(const RowValues& row, bool newRow, Recordset& players) {
+  const QString card = row.value("CardNumber").Trimmed();
   if (card.isEmpty() || card == QLatin1String("000000") || players.RecordCount() == 0) return false;
   const QString criterion = QStringLiteral("CardNumber = '%1'").arg(EscapeQuotes(card));
   players.MoveFirst();
   players.Find(criterion);
-  while (!players.AtEnd() && !row.isNew &&
-         players["PlayerID"].Trimmed() == row.playerID.Trimmed()) {
+  while (!players.AtEnd() && !newRow &&
+         players["PlayerID"].Trimmed() == row.value("PlayerID").Trimmed()) {
     players.Find(criterion, 1);
   }
   return !players.AtEnd();
 }
 
 /// What is said of these does not end the check: the operator hears of the last one.
-void CheckFigures(const PlayerRow& row, RowCheck& check) {
-  NullBecomesEmpty(check, "CardYear", row.cardYear);
-  const double year = Val(row.cardYear.Trimmed());
-  if (!IsBlank(row.cardYear) && (year < FirstCardYear || year > LastCardYear)) {
+void CheckFigures(const RowValues& row, RowCheck& check) {
+  NullBecomesEmpty(check, "CardYear", row);
+  const double year = Val(row.value("CardYear").Trimmed());
+  if (!IsBlank(row.value("CardYear")) && (year < FirstCardYear || year > LastCardYear)) {
     check.Refuse("Invalid card year");
   }
-  if (IsBlank(row.longevity)) check.Fix("Longevity", 0);
-  if (!IsBlank(row.birthDate) && !IsDate(row.birthDate)) check.Refuse("Invalid birth date");
+  if (IsBlank(row.value("Longevity"))) check.Fix("Longevity", 0);
+  if (!IsBlank(row.value("BirthDate")) && !IsDate(row.value("BirthDate")))
+    check.Refuse("Invalid birth date");
 }
 
-void CheckLength(RowCheck& check, const char* field, const Value& value, qsizetype length,
-                 qsizetype limit, const char* message) {
-  NullBecomesEmpty(check, field, value);
-  if (length > limit) check.Refuse(QLatin1String(message));
+void CheckLength(RowCheck& check, const RowValues& row, const char* field, qsizetype limit,
+                 const char* message) {
+  NullBecomesEmpty(check, field, row);
+  if (row.value(field).Trimmed().size() > limit) check.Refuse(message);
 }
 
-void CheckContacts(const PlayerRow& row, RowCheck& check) {
-  CheckLength(check, "ZipCode", row.zipCode, row.zipCode.Trimmed().remove(u'-').size(),
-              ZipCodeLength, "Invalid zipcode");
-  CheckLength(check, "Telephone", row.telephone, row.telephone.Trimmed().size(), TelephoneLength,
-              "Invalid phone number");
-  CheckLength(check, "CellPhone", row.cellPhone, row.cellPhone.Trimmed().size(), TelephoneLength,
-              "Invalid Cell Phone number");
+void CheckContacts(const RowValues& row, RowCheck& check) {
+  NullBecomesEmpty(check, "ZipCode", row);
+  if (row.value("ZipCode").Trimmed().remove(u'-').size() > ZipCodeLength) {
+    check.Refuse("Invalid zipcode");
+  }
+  CheckLength(check, row, "Telephone", TelephoneLength, "Invalid phone number");
+  CheckLength(check, row, "CellPhone", TelephoneLength, "Invalid Cell Phone number");
 }
 
 }  // namespace
 
-RowCheck CheckPlayer(const PlayerRow& row, Recordset& players,
+RowCheck CheckPlayer(const RowValues& row, bool newRow, Recordset& players,
                      std::optional<bool> sameCardConfirmed) {
   RowCheck check = CheckNames(row);
   if (check.verdict != RowCheck::Verdict::Save) return check;
-  if (row.isNew) {
-    check.Fix("PlayerID",
-              AllocatePlayerID(players, row.lastName.Trimmed(), row.firstName.Trimmed()));
+  if (newRow) {
+    check.Fix("PlayerID", AllocatePlayerID(players, row.value("LastName").Trimmed(),
+                                           row.value("FirstName").Trimmed()));
   }
-  NullBecomesEmpty(check, "CardNumber", row.cardNumber);
-  if (sameCardConfirmed != true && FindSameCard(row, players)) {
+  NullBecomesEmpty(check, "CardNumber", row);
+  if (sameCardConfirmed != true && FindSameCard(row, newRow, players)) {
     if (sameCardConfirmed.has_value()) return check.Drop();
     return check.AskFirst(
         "Confirm Card Number",
@@ -93,8 +94,8 @@ RowCheck CheckPlayer(const PlayerRow& row, Recordset& players,
                        "anyway?")
             .arg(players["FirstName"].ToText(), players["LastName"].ToText()));
   }
-  if (IsBlank(row.category)) return check.Refuse("Invalid category");
-  if (IsBlank(row.state)) return check.Refuse("Invalid State");
+  if (IsBlank(row.value("Category"))) return check.Refuse("Invalid category");
+  if (IsBlank(row.value("State"))) return check.Refuse("Invalid State");
   CheckFigures(row, check);
   CheckContacts(row, check);
   return check;

@@ -8,18 +8,6 @@ namespace tavrelin {
 
 class Recordset;
 
-/// A player's row as it stands in the grid, typed and not yet saved.
-struct PlayerRow {
-  bool isNew = false;
-  Value playerID;  ///< empty on a new row: the check allocates it
-  Value firstName, lastName;
-  Value category, state;
-  Value cardNumber, cardYear;
-  Value longevity;  ///< years of membership
-  Value birthDate;
-  Value zipCode, telephone, cellPhone;
-};
-
 /// Checks a player's row before it is saved. A row without any name vanishes silently; a missing
 /// name throws the row away with a message; the other failures keep the operator on the row, and of
 /// several the last one is told.
@@ -29,7 +17,7 @@ struct PlayerRow {
 ///
 /// Fixes: the number of a new player, empty texts in place of nulls, 0 years for none. `players` is
 /// a clone of the roster with all fields; its cursor moves.
-RowCheck CheckPlayer(const PlayerRow& row, Recordset& players,
+RowCheck CheckPlayer(const RowValues& row, bool newRow, Recordset& players,
                      std::optional<bool> sameCardConfirmed = std::nullopt);
 
 }  // namespace tavrelin

@@ -3,6 +3,8 @@
 #include <QHideEvent>
 #include <QShowEvent>
 
+#include "basic/RowCheck.h"
+#include "controls/GridEX.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
 
@@ -29,6 +31,16 @@ void Screen::Refuse(const QString& message) {
 
 void Screen::Say(const QString& message) {
   stsInfo_->ShowNews(message);
+}
+
+bool Screen::Ask(const RowCheck& check) {
+  return surroundings_.person.Confirm(check.title, check.question);
+}
+
+void Screen::Settle(const RowCheck& check, GridEX& grid, GridUpdate& update) {
+  grid.Apply(check);
+  update.Obey(check);
+  if (!check.message.isEmpty()) Refuse(check.message);
 }
 
 // Minimizing and restoring the window are the platform's own events: the screen stays as it is

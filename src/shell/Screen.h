@@ -12,10 +12,13 @@ namespace tavrelin {
 class Browser;
 class Clipboard;
 class Clock;
+class GridEX;
 class MessageBar;
 class Operator;
 class Printer;
 class Store;
+struct GridUpdate;
+struct RowCheck;
 
 /// Everything outside a screen that it may use, handed in by the window (or by a test). The window
 /// owns all of it; it outlives the screens.
@@ -74,6 +77,11 @@ class Screen : public QWidget {
   void Refuse(const QString& message);
   /// News in the first panel: no beep.
   void Say(const QString& message);
+
+  /// The question of a rule, put to the operator; true is Yes.
+  bool Ask(const RowCheck& check);
+  /// Carries a rule's answer out on the row that a grid is about to save: fixes, verdict, message.
+  void Settle(const RowCheck& check, GridEX& grid, GridUpdate& update);
 
   const Surroundings& around() const { return surroundings_; }
   CSError& errors() { return errors_; }

@@ -11,20 +11,20 @@ namespace {
 using Verdict = RowCheck::Verdict;
 
 /// A row against which nothing stands.
-PlayerRow GoodRow() {
-  PlayerRow row;
-  row.playerID = "OLSKAR";
-  row.firstName = "Karen";
-  row.lastName = "Olson";
-  row.category = "AW";
-  row.state = "MN";
-  row.cardNumber = "123456";
-  row.cardYear = "2025";
-  row.longevity = 3;
-  row.birthDate = QDate(1950, 2, 28);
-  row.zipCode = "551011234";
-  row.telephone = "6515550123";
-  row.cellPhone = "6515550124";
+RowValues GoodRow() {
+  RowValues row;
+  row["PlayerID"] = "OLSKAR";
+  row["FirstName"] = "Karen";
+  row["LastName"] = "Olson";
+  row["Category"] = "AW";
+  row["State"] = "MN";
+  row["CardNumber"] = "123456";
+  row["CardYear"] = "2025";
+  row["Longevity"] = 3;
+  row["BirthDate"] = QDate(1950, 2, 28);
+  row["ZipCode"] = "551011234";
+  row["Telephone"] = "6515550123";
+  row["CellPhone"] = "6515550124";
   return row;
 }
 
@@ -35,9 +35,14 @@ Recordset Roster() {
   return players;
 }
 
-RowCheck Check(const PlayerRow& row, std::optional<bool> answer = std::nullopt) {
+RowCheck Check(const RowValues& row, std::optional<bool> answer = std::nullopt) {
   Recordset players = Roster();
-  return CheckPlayer(row, players, answer);
+  return CheckPlayer(row, false, players, answer);
+}
+
+RowCheck CheckNew(const RowValues& row) {
+  Recordset players = Roster();
+  return CheckPlayer(row, true, players);
 }
 
 QStringList FixedFields(const RowCheck& check) {
@@ -54,11 +59,10 @@ TEST(CheckPlayer, AGoodRowIsSavedAsItStands) {
 }
 
 TEST(CheckPlayer, ARowWithoutAnyNameIsDroppedSilently) {
-  PlayerRow row = GoodRow();
-  row.isNew = true;
+  RowValues row = GoodRow();
   for (const Value& blank : {Value(), Value(""), Value("   ")}) {
-    row.firstName = row.lastName = blank;
-    const RowCheck check = Check(row);
+    row["FirstName"] = row["LastName"] = blank;
+    const RowCheck check = CheckNew(row);
     EXPECT_EQ(check.verdict, Verdict::Discard);
     EXPECT_EQ(check.message, "");
   }
@@ -66,7 +70,7 @@ TEST(CheckPlayer, ARowWithoutAnyNameIsDroppedSilently) {
 
 struct Refusal {
   const char* name;
-  void (*spoil)(PlayerRow&);
+  void (*spoil)(RowValues&);
   Verdict verdict;
   const char* message;
 };
@@ -78,7 +82,7 @@ void PrintTo(const Refusal& refusal, std::ostream* out) {
 class CheckPlayerRefuses : public testing::TestWithParam<Refusal> {};
 
 TEST_P(CheckPlayerRefuses, WithTheMessage) {
-  PlayerRow row = GoodRow();
+  RowValues row = GoodRow();
   GetParam().spoil(row);
   const RowCheck check = Check(row);
   EXPECT_EQ(check.verdict, GetParam().verdict);
@@ -87,71 +91,70 @@ TEST_P(CheckPlayerRefuses, WithTheMessage) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, CheckPlayerRefuses,
-    testing::Values(Refusal{"NoLastName", [](PlayerRow& r) { r.lastName = " "; }, Verdict::Discard,
-                            "Invalid last name changes not committed."},
-                    Refusal{"NoFirstName", [](PlayerRow& r) { r.firstName = Value(); },
+    testing::Values(Refusal{"NoLastName", [](RowValues& r) { r["LastName"] = " "; },
+                            Verdict::Discard, "Invalid last name changes not committed."},
+                    Refusal{"NoFirstName", [](RowValues& r) { r["FirstName"] = Value(); },
                             Verdict::Discard, "Invalid first name changes not committed."},
-                    Refusal{"QuoteInLastName", [](PlayerRow& r) { r.lastName = "Ol\"son"; },
+                    Refusal{"QuoteInLastName", [](RowValues& r) { r["LastName"] = "Ol\"son"; },
                             Verdict::Cancel, "Double Quotes are not allowed in Last Name"},
-                    Refusal{"QuoteInFirstName", [](PlayerRow& r) { r.firstName = "\"Kay\""; },
+                    Refusal{"QuoteInFirstName", [](RowValues& r) { r["FirstName"] = "\"Kay\""; },
                             Verdict::Cancel, "Double Quotes are not allowed in First Name"},
-                    Refusal{"NoDivision", [](PlayerRow& r) { r.category = Value(); },
+                    Refusal{"NoDivision", [](RowValues& r) { r["Category"] = Value(); },
                             Verdict::Cancel, "Invalid category"},
-                    Refusal{"NoState", [](PlayerRow& r) { r.state = " "; }, Verdict::Cancel,
+                    Refusal{"NoState", [](RowValues& r) { r["State"] = " "; }, Verdict::Cancel,
                             "Invalid State"},
-                    Refusal{"Year1949", [](PlayerRow& r) { r.cardYear = "1949"; }, Verdict::Cancel,
-                            "Invalid card year"},
-                    Refusal{"Year2101", [](PlayerRow& r) { r.cardYear = "2101"; }, Verdict::Cancel,
-                            "Invalid card year"},
-                    Refusal{"YearInWords", [](PlayerRow& r) { r.cardYear = "last"; },
+                    Refusal{"Year1949", [](RowValues& r) { r["CardYear"] = "1949"; },
                             Verdict::Cancel, "Invalid card year"},
-                    Refusal{"BirthDate", [](PlayerRow& r) { r.birthDate = "2/30/1950"; },
+                    Refusal{"Year2101", [](RowValues& r) { r["CardYear"] = "2101"; },
+                            Verdict::Cancel, "Invalid card year"},
+                    Refusal{"YearInWords", [](RowValues& r) { r["CardYear"] = "last"; },
+                            Verdict::Cancel, "Invalid card year"},
+                    Refusal{"BirthDate", [](RowValues& r) { r["BirthDate"] = "2/30/1950"; },
                             Verdict::Cancel, "Invalid birth date"},
-                    Refusal{"ZipCode", [](PlayerRow& r) { r.zipCode = "55101-12345"; },
+                    Refusal{"ZipCode", [](RowValues& r) { r["ZipCode"] = "55101-12345"; },
                             Verdict::Cancel, "Invalid zipcode"},
-                    Refusal{"Telephone", [](PlayerRow& r) { r.telephone = "16515550123"; },
+                    Refusal{"Telephone", [](RowValues& r) { r["Telephone"] = "16515550123"; },
                             Verdict::Cancel, "Invalid phone number"},
-                    Refusal{"CellPhone", [](PlayerRow& r) { r.cellPhone = "16515550123"; },
+                    Refusal{"CellPhone", [](RowValues& r) { r["CellPhone"] = "16515550123"; },
                             Verdict::Cancel, "Invalid Cell Phone number"}),
     [](const auto& refusal) { return std::string(refusal.param.name); });
 
 TEST(CheckPlayer, TheFirstFailureOfTheNamesEndsTheCheck) {
-  PlayerRow row = GoodRow();
-  row.isNew = true;
-  row.lastName = row.firstName = "\"";
-  row.category = row.state = "";
-  const RowCheck check = Check(row);
+  RowValues row = GoodRow();
+  row["LastName"] = row["FirstName"] = "\"";
+  row["Category"] = row["State"] = "";
+  const RowCheck check = CheckNew(row);
   EXPECT_EQ(check.message, "Double Quotes are not allowed in Last Name");
   EXPECT_EQ(FixedFields(check), QStringList()) << "no number is allocated yet";
 }
 
 TEST(CheckPlayer, DivisionAndStateEndTheCheckButTheLastOfTheOthersIsTold) {
-  PlayerRow row = GoodRow();
-  row.cardYear = "1";
-  row.birthDate = "yesterday";
-  row.zipCode = "1234567890";
-  row.telephone = "12345678901";
+  RowValues row = GoodRow();
+  row["CardYear"] = "1";
+  row["BirthDate"] = "yesterday";
+  row["ZipCode"] = "1234567890";
+  row["Telephone"] = "12345678901";
   EXPECT_EQ(Check(row).message, "Invalid phone number");
-  row.cellPhone = "12345678901";
+  row["CellPhone"] = "12345678901";
   EXPECT_EQ(Check(row).message, "Invalid Cell Phone number");
-  row.state = "";
+  row["State"] = "";
   EXPECT_EQ(Check(row).message, "Invalid State");
-  row.category = "";
+  row["Category"] = "";
   EXPECT_EQ(Check(row).message, "Invalid category");
 }
 
 TEST(CheckPlayer, CardYears1950And2100Pass) {
-  PlayerRow row = GoodRow();
+  RowValues row = GoodRow();
   for (const char* year : {"1950", "2100", "", "  "}) {
-    row.cardYear = year;
+    row["CardYear"] = year;
     EXPECT_EQ(Check(row).verdict, Verdict::Save) << year;
   }
 }
 
 TEST(CheckPlayer, NullsBecomeEmptyTextsAndNoYearsZero) {
-  PlayerRow row = GoodRow();
-  row.cardNumber = row.cardYear = row.longevity = row.birthDate = Value();
-  row.zipCode = row.telephone = row.cellPhone = Value();
+  RowValues row = GoodRow();
+  row["CardNumber"] = row["CardYear"] = row["Longevity"] = row["BirthDate"] = Value();
+  row["ZipCode"] = row["Telephone"] = row["CellPhone"] = Value();
   const RowCheck check = Check(row);
   EXPECT_EQ(check.verdict, Verdict::Save);
   EXPECT_EQ(FixedFields(check), QStringList({"CardNumber", "CardYear", "Longevity", "ZipCode",
@@ -162,20 +165,19 @@ TEST(CheckPlayer, NullsBecomeEmptyTextsAndNoYearsZero) {
 }
 
 TEST(CheckPlayer, ANewPlayerIsGivenANumberAlsoWhenTheRowIsRefusedLater) {
-  PlayerRow row = GoodRow();
-  row.isNew = true;
-  row.playerID = Value();
-  row.cardNumber = "";
-  row.category = "";
-  const RowCheck check = Check(row);
+  RowValues row = GoodRow();
+  row["PlayerID"] = Value();
+  row["CardNumber"] = "";
+  row["Category"] = "";
+  const RowCheck check = CheckNew(row);
   EXPECT_EQ(check.verdict, Verdict::Cancel);
   ASSERT_EQ(FixedFields(check), QStringList("PlayerID"));
   EXPECT_EQ(check.fixes[0].second, Value("OLSK01"));
 }
 
 TEST(CheckPlayer, ACardOfAnotherPlayerIsAskedAbout) {
-  PlayerRow row = GoodRow();
-  row.cardNumber = "777";
+  RowValues row = GoodRow();
+  row["CardNumber"] = "777";
   const RowCheck asks = Check(row);
   EXPECT_EQ(asks.verdict, Verdict::Ask);
   EXPECT_EQ(asks.title, "Confirm Card Number");
@@ -185,28 +187,27 @@ TEST(CheckPlayer, ACardOfAnotherPlayerIsAskedAbout) {
 }
 
 TEST(CheckPlayer, NoThrowsTheRowAwayUncheckedAndYesGoesOn) {
-  PlayerRow row = GoodRow();
-  row.cardNumber = "777";
-  row.category = "";
+  RowValues row = GoodRow();
+  row["CardNumber"] = "777";
+  row["Category"] = "";
   const RowCheck no = Check(row, false);
   EXPECT_EQ(no.verdict, Verdict::Discard);
   EXPECT_EQ(no.message, "");
   EXPECT_EQ(Check(row, true).message, "Invalid category");
-  row.category = "AW";
+  row["Category"] = "AW";
   EXPECT_EQ(Check(row, true).verdict, Verdict::Save);
 }
 
 TEST(CheckPlayer, OnesOwnCardIsNoQuestionYetANewPlayerWithItIs) {
-  PlayerRow row = GoodRow();
+  RowValues row = GoodRow();
   EXPECT_EQ(Check(row).verdict, Verdict::Save);
-  row.isNew = true;
-  EXPECT_EQ(Check(row).verdict, Verdict::Ask);
+  EXPECT_EQ(CheckNew(row).verdict, Verdict::Ask);
 }
 
 TEST(CheckPlayer, TheOtherHolderIsFoundBehindOnesOwnRow) {
   Recordset players = Roster();
   AddToRoster(players, "BERPIA", "Pia", "O'Berg", "123456");
-  const RowCheck check = CheckPlayer(GoodRow(), players);
+  const RowCheck check = CheckPlayer(GoodRow(), false, players);
   EXPECT_EQ(check.verdict, Verdict::Ask);
   EXPECT_TRUE(check.question.contains("Pia O'Berg")) << check.question.toStdString();
 }
@@ -215,19 +216,18 @@ TEST(CheckPlayer, CardNumber000000OnManyPlayersRaisesNoQuestion) {
   for (const char* none : {"000000", "", "   "}) {
     Recordset players = Roster();
     AddToRoster(players, "BERPIA", "Pia", "Berg", none);
-    PlayerRow row = GoodRow();
-    row.cardNumber = none;
-    EXPECT_EQ(CheckPlayer(row, players).verdict, Verdict::Save) << none;
+    RowValues row = GoodRow();
+    row["CardNumber"] = none;
+    EXPECT_EQ(CheckPlayer(row, false, players).verdict, Verdict::Save) << none;
   }
 }
 
 TEST(CheckPlayer, NamesThatWouldBreakAStatementAreJustNames) {
   for (const char* name : {"O'Brien", "%", "'); DROP TABLE Players; --", "Παπάς", "😀 Jo"}) {
-    PlayerRow row = GoodRow();
-    row.isNew = true;
-    row.lastName = row.firstName = name;
-    row.cardNumber = "' OR '1' = '1";
-    EXPECT_EQ(Check(row).verdict, Verdict::Save) << name;
+    RowValues row = GoodRow();
+    row["LastName"] = row["FirstName"] = name;
+    row["CardNumber"] = "' OR '1' = '1";
+    EXPECT_EQ(CheckNew(row).verdict, Verdict::Save) << name;
   }
 }
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPalette>
 #include <QTest>
@@ -39,6 +40,8 @@ ScreenBench::ScreenBench() : store_(std::make_unique<Store>(PathOf(QStringLitera
 }
 
 ScreenBench::~ScreenBench() {
+  // As a window is closed: hidden first, so that the screen ends its edits while all of it stands.
+  if (host_) host_->hide();
   host_.reset();
   ConnectString.clear();
   DatabasePath.clear();
@@ -113,9 +116,18 @@ void ScreenBench::Focus(const QString& name) {
 }
 
 void ScreenBench::Type(const QString& text) {
-  QWidget* focus = driven_->focusWidget();
-  if (!focus) Fail(QStringLiteral("no control has the focus"));
-  QTest::keyClicks(focus, text);
+  for (const char32_t character : text.toUcs4()) {
+    QWidget* focus = driven_->focusWidget();
+    if (!focus) Fail(QStringLiteral("no control has the focus"));
+    // QTest types Latin alone; other characters come as from an input method, text without a key.
+    if (character < 0x80) {
+      QTest::keyClick(focus, static_cast<char>(character));
+    } else {
+      QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
+                      QString::fromUcs4(&character, 1));
+      QCoreApplication::sendEvent(focus, &press);
+    }
+  }
   ProcessEvents();
 }
 
