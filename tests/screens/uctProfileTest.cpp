@@ -1,0 +1,586 @@
+#include "players/uctProfile.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTest>
+
+#include "controls/GridEX.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "data/Schema.h"
+#include "support/ScreenBench.h"
+
+namespace tavrelin {
+namespace {
+
+using Cells = QList<QPair<QString, QString>>;
+
+struct uctProfileTest : testing::Test {
+  ScreenBench bench;
+  Connection file;
+
+  void SetUp() override {
+    DeliverClubFile(bench.ClubFile());
+    ConnectString = ConnectStringFor(bench.ClubFile());
+    file.Open(ConnectString);
+  }
+
+  void Add(const QString& playerID, const QString& last, const QString& first,
+           const QString& card = {}, const Value& years = 0) {
+    file.Execute(
+        "INSERT INTO Players (PlayerID, LastName, FirstName, CardNumber, Longevity, Category, "
+        "State, MembershipType) VALUES (?, ?, ?, ?, ?, 'AM', 'MN', 'S')",
+        {playerID, last, first, card, years});
+  }
+  void Set(const QString& playerID, const QString& field, const Value& value) {
+    file.Execute("UPDATE Players SET " + field + " = ? WHERE PlayerID = ?", {value, playerID});
+  }
+
+  void Show() { bench.Show<uctProfile>(); }
+  GridEX& Grid() { return bench.Find<GridEX>("grdProfile"); }
+
+  Value Stored(const QString& field, const QString& playerID) {
+    Recordset rows;
+    rows.Open("SELECT " + field + " FROM Players WHERE PlayerID = ?", file,
+              Recordset::Lock::ReadOnly, {playerID});
+    return rows.AtEnd() ? Value("no such player") : rows.At(0);
+  }
+  qint64 Count() {
+    Recordset rows;
+    rows.Open("SELECT COUNT(*) FROM Players", file);
+    return rows.At(0).ToWhole();
+  }
+
+  // Types into cells of the row the cursor stands on.
+  void Fill(const Cells& cells) {
+    for (const auto& [column, text] : cells) {
+      Grid().SetCol(column);
+      if (Grid().Columns()[Grid().ColumnNumber(column) - 1].editor == CellEditor::List) {
+        Grid().SetValue(column, text);
+      } else {
+        bench.Type(text);
+      }
+    }
+  }
+  // A new player with all a row needs, and the cells given besides; Enter takes the row over.
+  void TypeNew(const QString& first, const QString& last, const Cells& more = {}) {
+    bench.Press(Qt::Key_Insert);
+    Fill({{"FirstName", first}, {"LastName", last}, {"Category", "AW"}, {"State", "MN"}});
+    Fill(more);
+    bench.Press(Qt::Key_Return);
+  }
+  void GoTo(const QString& playerID) {
+    for (int row = 1; row <= Grid().RowCount(); ++row) {
+      if (Grid().ValueAt(row, "PlayerID").ToText() == playerID) Grid().SetRow(row);
+    }
+    ASSERT_EQ(Grid().Value("PlayerID").ToText(), playerID);
+  }
+  QString CurrentPlayer() { return Grid().Value("PlayerID").ToText(); }
+  void OnRowSelector(const QString& playerID) {
+    GoTo(playerID);
+    Grid().ClearCol();
+  }
+};
+
+TEST_F(uctProfileTest, OpensOnTheNewRowReadyForAFirstName) {
+  Add("SMIJOH", "Smith", "John");
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  EXPECT_TRUE(Grid().IsNewRow());
+  EXPECT_EQ(Grid().ColumnKey(Grid().Col()), "FirstName");
+  EXPECT_EQ(Grid().TextAt(1, "LastName"), "Berg");
+  EXPECT_EQ(Grid().TextAt(2, "LastName"), "Smith");
+  EXPECT_EQ(Grid().TextAt(1, "Category"), "Men");
+  EXPECT_EQ(Grid().TextAt(1, "MembershipType"), "Standard");
+  EXPECT_FALSE(bench.person.busy);
+}
+
+TEST_F(uctProfileTest, ColumnsStandInTheirPlacesWithTheirCaptions) {
+  Show();
+  QMap<int, QString> byPlace;
+  const QList<GridColumn>& columns = Grid().Columns();
+  for (int i = 0; i < columns.size(); ++i) {
+    byPlace[columns[i].position ? columns[i].position : i + 1] = columns[i].caption;
+  }
+  EXPECT_EQ(QStringList(byPlace.values()),
+            QStringList(
+                {"ID",         "First",   "Last",       "Type",   "Division",       "Card",  "Year",
+                 "Yrs",        "Rgr %",   "Birth Date", "Phone",  "Address",        "City",  "St",
+                 "Zip-Postal", "Remarks", "Cell Phone", "E-Mail", "Emergency Info", "Awards"}));
+}
+
+TEST_F(uctProfileTest, ANewPlayerTypedFromTheKeyboardIsSavedWithItsNumber) {
+  Show();
+  for (const char* cell : {"Karen", "Olson"}) {
+    bench.Type(cell);
+    bench.Press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(Grid().ColumnKey(Grid().Col()), "MembershipType");
+  Fill({{"Category", "AW"},
+        {"CardNumber", "4711"},
+        {"CardYear", "2025"},
+        {"State", "MN"},
+        {"Average", "45.5"},
+        {"BirthDate", "2/28/1950"}});
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(bench.Message(), "");
+  EXPECT_EQ(Stored("LastName", "OLSKAR"), Value("Olson"));
+  EXPECT_EQ(Stored("MembershipType", "OLSKAR"), Value("S"));
+  EXPECT_EQ(Stored("Average", "OLSKAR"), Value(45.5));
+  EXPECT_EQ(Stored("BirthDate", "OLSKAR").ToDate().date(), QDate(1950, 2, 28));
+  EXPECT_EQ(Stored("Longevity", "OLSKAR"), Value(0));
+  EXPECT_EQ(Stored("ZipCode", "OLSKAR"), Value(""));
+}
+
+TEST_F(uctProfileTest, ASavedRowTakesItsSortedPlaceAndTheNextCanBeTypedAtOnce) {
+  Add("BERPIA", "Berg", "Pia");
+  Add("SMIJOH", "Smith", "John");
+  Show();
+  TypeNew("Karen", "Olson");
+  EXPECT_EQ(Grid().TextAt(2, "LastName"), "Olson");
+  EXPECT_TRUE(Grid().IsNewRow());
+  EXPECT_EQ(Grid().ColumnKey(Grid().Col()), "FirstName");
+  EXPECT_EQ(Grid().Value("LastName").ToText(), "");
+  TypeNew("Al", "Aas");
+  EXPECT_EQ(Grid().TextAt(1, "LastName"), "Aas");
+}
+
+TEST_F(uctProfileTest, ANewRowWithoutNamesIsDroppedSilently) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  Fill({{"City", "Duluth"}});
+  bench.Press(Qt::Key_Down);
+  EXPECT_EQ(bench.Message(), "");
+  EXPECT_EQ(bench.person.beeps, 0);
+  EXPECT_EQ(Count(), 1);
+  bench.Press(Qt::Key_Insert);
+  EXPECT_EQ(Grid().Value("City").ToText(), "");
+}
+
+TEST_F(uctProfileTest, ANewRowWithOnlyAFirstNameIsDroppedWithAMessage) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  Fill({{"FirstName", "Karen"}});
+  bench.Press(Qt::Key_Down);
+  EXPECT_EQ(bench.Message(), "Invalid last name changes not committed.");
+  EXPECT_TRUE(bench.Refused());
+  EXPECT_EQ(bench.person.beeps, 1);
+  EXPECT_EQ(Count(), 1);
+}
+
+TEST_F(uctProfileTest, AChangeThatBlanksANameIsThrownAway) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"City", "Duluth"}});
+  Grid().SetValue("FirstName", " ");
+  Grid().CommitRow();
+  EXPECT_EQ(bench.Message(), "Invalid first name changes not committed.");
+  EXPECT_EQ(Grid().Value("FirstName"), Value("Pia"));
+  EXPECT_EQ(Stored("City", "BERPIA"), Value());
+}
+
+TEST_F(uctProfileTest, ARefusedRowKeepsTheOperatorAndAllHeTyped) {
+  Show();
+  TypeNew("Karen", "Olson", {{"CardYear", "1949"}});
+  EXPECT_EQ(bench.Message(), "Invalid card year");
+  EXPECT_EQ(Grid().Value("LastName"), Value("Olson"));
+  EXPECT_EQ(Count(), 0);
+  Grid().SetCol("CardYear");
+  bench.Type("1950");
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(bench.Message(), "");
+  EXPECT_EQ(Stored("CardYear", "OLSKAR"), Value("1950"));
+}
+
+TEST_F(uctProfileTest, CardYears1949And2101AreRefused1950And2100Pass) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  for (const char* year : {"1949", "2101"}) {
+    Fill({{"CardYear", year}});
+    EXPECT_FALSE(Grid().CommitRow()) << year;
+    EXPECT_EQ(bench.Message(), "Invalid card year") << year;
+  }
+  for (const char* year : {"1950", "2100"}) {
+    Fill({{"CardYear", year}});
+    EXPECT_TRUE(Grid().CommitRow()) << year;
+    EXPECT_EQ(Stored("CardYear", "BERPIA"), Value(year));
+  }
+}
+
+TEST_F(uctProfileTest, LastNameOBrienWithAnApostropheGivesOBRAL0) {
+  Show();
+  TypeNew("Al", "O'Brien");
+  EXPECT_EQ(Stored("LastName", "OBRAL0"), Value("O'Brien"));
+}
+
+TEST_F(uctProfileTest, NamesAreStoredAndShownAsTyped) {
+  const QStringList names = {
+      "O'Brien",       "50% off", "'); DROP TABLE", QStringLiteral("Παπάς"), QStringLiteral("Jo 😀"),
+      QString(25, 'x')};
+  Show();
+  for (const QString& name : names) {
+    TypeNew("Al", name);
+    EXPECT_EQ(bench.Message(), "") << name.toStdString();
+    Recordset rows;
+    rows.Open("SELECT LastName FROM Players WHERE LastName = ?", file, Recordset::Lock::ReadOnly,
+              {name});
+    EXPECT_EQ(rows.RecordCount(), 1) << name.toStdString();
+  }
+  EXPECT_EQ(Grid().RowCount(), names.size());
+  QStringList shown;
+  for (int row = 1; row <= Grid().RowCount(); ++row) shown.append(Grid().TextAt(row, "LastName"));
+  shown.sort();
+  QStringList expected = names;
+  expected.sort();
+  EXPECT_EQ(shown, expected);
+}
+
+TEST_F(uctProfileTest, ANameOfFortyCharactersEndsAtItsLimitWhileItIsTyped) {
+  Show();
+  TypeNew(QString(40, 'a'), QString(40, 'b'));
+  EXPECT_EQ(Stored("FirstName", "BBBAAA"), Value(QString(20, 'a')));
+  EXPECT_EQ(Stored("LastName", "BBBAAA"), Value(QString(25, 'b')));
+}
+
+TEST_F(uctProfileTest, DoubleQuotesInANameAreRefused) {
+  Show();
+  TypeNew("Al", "\"Red\" Olson");
+  EXPECT_EQ(bench.Message(), "Double Quotes are not allowed in Last Name");
+  Grid().SetCol("LastName");
+  bench.Type("Olson");
+  Grid().SetCol("FirstName");
+  bench.Type("\"Al\"");
+  EXPECT_FALSE(Grid().CommitRow());
+  EXPECT_EQ(bench.Message(), "Double Quotes are not allowed in First Name");
+  EXPECT_EQ(Count(), 0);
+}
+
+TEST_F(uctProfileTest, AHundredthPlayerOfTheSameLettersIsRefusedByTheFile) {
+  Add("SMIJOH", "Smith", "John");
+  for (int number = 1; number <= 99; ++number) {
+    Add(QStringLiteral("SMIJ%1").arg(number, 2, 10, QLatin1Char('0')), "Smith", "John");
+  }
+  Show();
+  TypeNew("John", "Smith");
+  EXPECT_NE(bench.errors.Take().description, "");
+  EXPECT_EQ(Count(), 100);
+  EXPECT_EQ(Grid().Value("LastName"), Value("Smith")) << "what was typed is still there";
+  Grid().SetDataChanged(false);
+}
+
+TEST_F(uctProfileTest, ACardOfAnotherPlayerIsConfirmedByTheOperator) {
+  Add("SMIJOH", "Smith", "John", "777");
+  Show();
+  bench.person.WillAnswer(false);
+  TypeNew("Karen", "Olson", {{"CardNumber", "777"}});
+  ASSERT_EQ(bench.person.questions.size(), 1);
+  EXPECT_EQ(bench.person.questions[0].title, "Confirm Card Number");
+  EXPECT_EQ(bench.person.questions[0].text,
+            "That Card Number is already assigned to John Smith.  "
+            "Do you wish to continue anyway?");
+  EXPECT_EQ(bench.person.beeps, 1);
+  EXPECT_EQ(Count(), 1);
+  bench.person.WillAnswer(true);
+  TypeNew("Karen", "Olson", {{"CardNumber", "777"}});
+  EXPECT_EQ(Stored("CardNumber", "OLSKAR"), Value("777"));
+}
+
+TEST_F(uctProfileTest, CardNumber000000OnManyPlayersRaisesNoQuestion) {
+  Add("SMIJOH", "Smith", "John", "000000");
+  Show();
+  TypeNew("Karen", "Olson", {{"CardNumber", "000000"}});
+  TypeNew("Al", "Berg", {{"CardNumber", "000000"}});
+  EXPECT_EQ(Count(), 3);
+  EXPECT_TRUE(bench.person.questions.isEmpty());
+}
+
+TEST_F(uctProfileTest, AZipCodeOfFiveShowsAsItIsOfNineWithAHyphenOfSixAsItIs) {
+  struct {
+    const char *typed, *stored, *shown;
+  } const cases[] = {{"55101", "55101", "55101"},
+                     {"551011234", "551011234", "55101-1234"},
+                     {"k1a0b6", "K1A0B6", "K1A0B6"}};
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  for (const auto& c : cases) {
+    Fill({{"ZipCode", c.typed}});
+    ASSERT_TRUE(Grid().CommitRow());
+    EXPECT_EQ(Stored("ZipCode", "BERPIA"), Value(c.stored));
+    EXPECT_EQ(Grid().TextAt(1, "ZipCode"), c.shown);
+  }
+}
+
+TEST_F(uctProfileTest, PunctuationInAZipCodeIsSwallowedWithAMessage) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"ZipCode", "55101-"}});
+  EXPECT_EQ(bench.Message(),
+            "Punctuation characters not allowed.  They are automatically provided");
+  EXPECT_EQ(bench.person.beeps, 1);
+  bench.Type("1234");
+  EXPECT_EQ(bench.Message(), "");
+  Grid().CommitRow();
+  EXPECT_EQ(Stored("ZipCode", "BERPIA"), Value("551011234"));
+}
+
+TEST_F(uctProfileTest, AZipCodeOfTenIsRefused) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"ZipCode", "5510112345"}});
+  EXPECT_FALSE(Grid().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid zipcode");
+  Grid().SetDataChanged(false);
+}
+
+TEST_F(uctProfileTest, AHyphenInAStoredZipCodeGoesWhenTheCellIsEdited) {
+  Add("BERPIA", "Berg", "Pia");
+  Set("BERPIA", "ZipCode", "55101-1234");
+  Show();
+  GoTo("BERPIA");
+  Grid().SetCol("ZipCode");
+  bench.Press(Qt::Key_F2);
+  bench.Press(Qt::Key_Return);
+  Grid().CommitRow();
+  EXPECT_EQ(Stored("ZipCode", "BERPIA"), Value("551011234"));
+}
+
+TEST_F(uctProfileTest, APhoneTypedWithBracketsBlanksAndHyphensIsStoredAsItsTenDigits) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"Telephone", "(651) 555-0123"}, {"CellPhone", "651.555.0124"}});
+  ASSERT_TRUE(Grid().CommitRow());
+  EXPECT_EQ(Stored("Telephone", "BERPIA"), Value("6515550123"));
+  EXPECT_EQ(Stored("CellPhone", "BERPIA"), Value("6515550124"));
+  EXPECT_EQ(Grid().TextAt(1, "Telephone"), "(651)555-0123");
+}
+
+TEST_F(uctProfileTest, AnElevenDigitPhoneIsRefused) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"Telephone", "1-651-555-0123"}});
+  EXPECT_FALSE(Grid().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid phone number");
+  Grid().SetDataChanged(false);
+}
+
+TEST_F(uctProfileTest, AWrongBirthDateIsRefusedInTheFirstPanelNotByAnError) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"BirthDate", "2/30/1950"}});
+  EXPECT_FALSE(Grid().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid birth date");
+  Grid().SetDataChanged(false);
+}
+
+TEST_F(uctProfileTest, APlayerInStateNACanBeKept) {
+  Show();
+  TypeNew("Karen", "Olson", {{"State", "NA"}});
+  EXPECT_EQ(Stored("State", "OLSKAR"), Value("NA"));
+}
+
+TEST_F(uctProfileTest, DeletionIsConfirmed) {
+  Add("BERPIA", "Berg", "Pia");
+  file.Execute("INSERT INTO TeamPlayers (TeamID, PlayerID) VALUES (1, 'BERPIA')");
+  Show();
+  OnRowSelector("BERPIA");
+  bench.person.WillAnswer(false);
+  bench.Press(Qt::Key_Delete);
+  EXPECT_EQ(Count(), 1);
+  bench.person.WillAnswer(true);
+  bench.Press(Qt::Key_Delete);
+  EXPECT_EQ(Count(), 0);
+  ASSERT_EQ(bench.person.questions.size(), 2);
+  EXPECT_EQ(bench.person.questions[0].title, "Confirm Deletion");
+  EXPECT_EQ(bench.person.questions[0].text, "Delete selected player?");
+  Recordset team;
+  team.Open("SELECT * FROM TeamPlayers", file);
+  EXPECT_EQ(team.RecordCount(), 1) << "a team keeps its row";
+}
+
+TEST_F(uctProfileTest, InsertGoesToTheNewRowAndLeftToTheRowSelector) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  EXPECT_EQ(Grid().Col(), -1) << "leaving the new row";
+  bench.Press(Qt::Key_Insert);
+  EXPECT_TRUE(Grid().IsNewRow());
+  EXPECT_EQ(Grid().ColumnKey(Grid().Col()), "FirstName");
+  bench.Press(Qt::Key_Left);
+  EXPECT_EQ(Grid().Col(), -1);
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(Grid().ColumnKey(Grid().Col()), "FirstName");
+}
+
+TEST_F(uctProfileTest, TypingSMOnTheRowSelectorJumpsToTheFirstSmith) {
+  Add("SANABE", "Sandberg", "Abe");
+  Add("SMIJOH", "Smith", "John");
+  Add("SMIKAY", "Smith", "Kay");
+  Add("AASALX", "Aas", "Al");
+  Show();
+  OnRowSelector("AASALX");
+  bench.Type("s");
+  EXPECT_EQ(CurrentPlayer(), "SANABE");
+  bench.Type("m");
+  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
+  EXPECT_EQ(Grid().Col(), -1);
+}
+
+TEST_F(uctProfileTest, APauseRestartsTheSearchFromTheNewKey) {
+  Add("SMIJOH", "Smith", "John");
+  Add("MOEKAY", "Moe", "Kay");
+  Show();
+  OnRowSelector("MOEKAY");
+  bench.Type("s");
+  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
+  QTest::qWait(1700);
+  bench.Type("m");
+  EXPECT_EQ(CurrentPlayer(), "MOEKAY");
+}
+
+TEST_F(uctProfileTest, ANameThatNobodyHasGoesToTheNextAndBehindTheLastNothingMoves) {
+  Add("AASALX", "Aas", "Al");
+  Add("SMIJOH", "Smith", "John");
+  Show();
+  OnRowSelector("AASALX");
+  bench.Type("k");
+  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
+  QTest::qWait(1700);
+  bench.Type("z");
+  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
+}
+
+TEST_F(uctProfileTest, TypedSearchByYearsGoesToTheFirstRowWithAtLeastThatNumber) {
+  Add("AASALX", "Aas", "Al", {}, 30);
+  Add("BERPIA", "Berg", "Pia", {}, 4);
+  Add("SMIJOH", "Smith", "John", {}, 12);
+  Show();
+  Grid().on.ColumnHeaderClick("Longevity");
+  OnRowSelector("BERPIA");
+  bench.Type("5");
+  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
+  bench.Type("x");
+  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
+}
+
+TEST_F(uctProfileTest, InsideACellAKeyGoesToTheCell) {
+  Add("AASALX", "Aas", "Al");
+  Add("SMIJOH", "Smith", "John");
+  Show();
+  GoTo("AASALX");
+  Grid().SetCol("City");
+  bench.Type("s");
+  EXPECT_EQ(CurrentPlayer(), "AASALX");
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(Stored("City", "AASALX"), Value("s"));
+}
+
+TEST_F(uctProfileTest, AHeaderClickSortsUpAndTheNextOneDown) {
+  Add("AASALX", "Aas", "Zoe", "20");
+  Add("SMIJOH", "Smith", "Abe", "100");
+  Show();
+  Grid().on.ColumnHeaderClick("LastName");
+  EXPECT_EQ(Grid().TextAt(1, "LastName"), "Smith") << "the roster opens in ascending order";
+  Grid().on.ColumnHeaderClick("FirstName");
+  EXPECT_EQ(Grid().TextAt(1, "FirstName"), "Abe");
+  Grid().on.ColumnHeaderClick("FirstName");
+  EXPECT_EQ(Grid().TextAt(1, "FirstName"), "Zoe");
+  Grid().on.ColumnHeaderClick("CardNumber");
+  EXPECT_EQ(Grid().TextAt(1, "CardNumber"), "20") << "cards sort as numbers";
+}
+
+TEST_F(uctProfileTest, TheViewButtonChangesBetweenTableAndCards) {
+  Add("AASALX", "Aas", "Al");
+  Show();
+  bench.Click("cmdView");
+  EXPECT_EQ(Grid().CurrentView(), GridEX::View::Card);
+  bench.Click("cmdView");
+  EXPECT_EQ(Grid().CurrentView(), GridEX::View::Table);
+}
+
+TEST_F(uctProfileTest, ClearingTheCheckHidesTheGroupByBoxAndEndsTheGrouping) {
+  Add("AASALX", "Aas", "Al");
+  Show();
+  EXPECT_FALSE(Grid().GroupByBoxVisible());
+  bench.Click("Check1");
+  EXPECT_TRUE(Grid().GroupByBoxVisible());
+  Grid().AddGroup("Category");
+  bench.Click("Check1");
+  EXPECT_FALSE(Grid().GroupByBoxVisible());
+  EXPECT_TRUE(Grid().Groups().isEmpty());
+}
+
+TEST_F(uctProfileTest, LeavingTheScreenSavesAnOpenEditAndReturningShowsWhatOthersWrote) {
+  Add("AASALX", "Aas", "Al");
+  Show();
+  GoTo("AASALX");
+  Fill({{"City", "Duluth"}});
+  bench.Leave();
+  EXPECT_EQ(Stored("City", "AASALX"), Value("Duluth"));
+  Add("BERPIA", "Berg", "Pia");
+  bench.LeaveAndReturn();
+  EXPECT_EQ(Grid().RowCount(), 2);
+  EXPECT_TRUE(Grid().IsNewRow());
+}
+
+TEST_F(uctProfileTest, LooksRightInLightAndDark) {
+  const char* const names[][2] = {{"Aasgaard", "Al"},   {"Berg", "Pia"},     {"Carlson", "Ruth"},
+                                  {"Dahl", "Kristin"},  {"Eide", "Thor"},    {"O'Brien", "Maeve"},
+                                  {"Lindstrom", "Ole"}, {"Olson", "Karen"},  {"Smith", "John"},
+                                  {"Svensson", "Inga"}, {"Thompson", "Ray"}, {"Zimmer", "Walt"}};
+  int number = 0;
+  for (const auto& [last, first] : names) {
+    const QString id = QStringLiteral("P%1").arg(++number, 5, 10, QLatin1Char('0'));
+    Add(id, last, first, QString::number(700 + number), number * 3);
+    Set(id, "Category", number % 3 ? (number % 2 ? "AM" : "EM") : "AW");
+    Set(id, "Average", 21.35 + number * 4);
+    Set(id, "CardYear", "2025");
+    Set(id, "BirthDate", QDate(1940 + number, 1 + number % 12, 14));
+    Set(id, "Telephone", QStringLiteral("65155501%1").arg(number, 2, 10, QLatin1Char('0')));
+    Set(id, "AddressOne", QStringLiteral("%1 Maple Street").arg(100 + number));
+    Set(id, "City", "Duluth");
+    Set(id, "ZipCode", "551011234");
+  }
+  const auto shots = [this](const QString& palette) {
+    Show();
+    bench.Shot("profile-new-row-" + palette);
+    GoTo("P00003");
+    Grid().SetCol("Category");
+    bench.Press(Qt::Key_F2);
+    bench.Shot("profile-division-" + palette);
+    bench.Press(Qt::Key_Escape);
+    Fill({{"CardYear", "1949"}});
+    Grid().CommitRow();
+    bench.Shot("profile-refusal-" + palette);
+    Grid().SetDataChanged(false);
+    bench.Click("cmdView");
+    bench.Shot("profile-cards-" + palette);
+    bench.Click("cmdView");
+    bench.Click("Check1");
+    Grid().AddGroup("Category");
+    bench.Shot("profile-groups-" + palette);
+    EXPECT_EQ(CutTexts(bench.Find("uctProfile")), QStringList()) << palette.toStdString();
+  };
+  UseLightPalette();
+  shots("light");
+  UseDarkPalette();
+  shots("dark");
+  UseLightPalette();
+}
+
+TEST_F(uctProfileTest, NoTextIsCut) {
+  Show();
+  EXPECT_EQ(CutTexts(bench.Find("uctProfile")), QStringList());
+}
+
+}  // namespace
+}  // namespace tavrelin
