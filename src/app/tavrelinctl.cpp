@@ -6,6 +6,7 @@
 #include "play/CardCommands.h"
 #include "play/Commands.h"
 #include "play/ResultsCommand.h"
+#include "players/Commands.h"
 
 namespace {
 
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
   QList<tavrelin::Command> commands =
       tavrelin::ClubCommands() + tavrelin::PlayCommands() + tavrelin::CardCommands();
   commands << tavrelin::ResultsCommand();
+  commands += tavrelin::PlayerCommands();
   const int code = tavrelin::RunCommandLine(commands, arguments, out, err);
   out.flush();
   if (out.status() == QTextStream::Ok) return code;

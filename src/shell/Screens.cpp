@@ -1,5 +1,6 @@
 #include "shell/Screens.h"
 
+#include "players/uctProfile.h"
 #include "shell/EmptyScreen.h"
 
 namespace tavrelin {
@@ -24,7 +25,7 @@ MakeScreen Without(const char* name, const char* title) {
 
 const QList<MakeScreen>& AllScreens() {
   static const QList<MakeScreen> screens = {
-      Without("uctProfile", "Player Profile"),
+      Make<uctProfile>(),
       Without("uctScores", "Player Stats"),
       Without("uctTournaments", "Tournament Setup"),
       Without("uctETally", "eTally"),

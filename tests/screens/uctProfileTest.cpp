@@ -9,7 +9,6 @@
 #include "controls/GridEX.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
-#include "data/Schema.h"
 #include "support/ScreenBench.h"
 
 namespace tavrelin {
@@ -21,11 +20,7 @@ struct uctProfileTest : testing::Test {
   ScreenBench bench;
   Connection file;
 
-  void SetUp() override {
-    DeliverClubFile(bench.ClubFile());
-    ConnectString = ConnectStringFor(bench.ClubFile());
-    file.Open(ConnectString);
-  }
+  void SetUp() override { file.Open(ConnectString); }
 
   void Add(const QString& playerID, const QString& last, const QString& first,
            const QString& card = {}, const Value& years = 0) {

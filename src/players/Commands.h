@@ -1,0 +1,10 @@
+#pragma once
+
+#include "app/CommandLine.h"
+
+namespace tavrelin {
+
+/// Commands about players: average.
+QList<Command> PlayerCommands();
+
+}  // namespace tavrelin
