@@ -110,6 +110,21 @@ void ReadGameRows(Connection& connection, LoadedClass& loaded) {
   }
 }
 
+constexpr QLatin1String ClassStatement(
+    "SELECT SanctionID, ClassID, Name, HandicapPct, Shoes, RankMethod, PlayFormat, RankOverride "
+    "FROM TournamentClasses WHERE SanctionID = ? ");
+
+ClassRules RulesAt(const Recordset& rows) {
+  return {rows.At(0).Trimmed(),
+          rows.At(1).Trimmed(),
+          rows.At(2).Trimmed(),
+          rows.At(3).ToNumber(),
+          static_cast<int>(rows.At(4).ToWhole()),
+          rows.At(5).Trimmed(),
+          rows.At(6).Trimmed(),
+          rows.At(7).ToYesNo()};
+}
+
 }  // namespace
 
 const PlayFormat& ClassRules::Format() const {
@@ -119,19 +134,20 @@ const PlayFormat& ClassRules::Format() const {
 std::optional<ClassRules> FindClass(Connection& connection, const QString& sanctionID,
                                     const QString& classID) {
   Recordset rows;
-  rows.Open(QStringLiteral("SELECT SanctionID, ClassID, Name, HandicapPct, Shoes, RankMethod, "
-                           "PlayFormat, RankOverride FROM TournamentClasses "
-                           "WHERE SanctionID = ? AND ClassID = ?"),
-            connection, Recordset::Lock::ReadOnly, {sanctionID.trimmed(), classID.trimmed()});
+  rows.Open(ClassStatement + QStringLiteral("AND ClassID = ?"), connection,
+            Recordset::Lock::ReadOnly, {sanctionID.trimmed(), classID.trimmed()});
   if (rows.AtEnd()) return std::nullopt;
-  return ClassRules{rows.At(0).Trimmed(),
-                    rows.At(1).Trimmed(),
-                    rows.At(2).Trimmed(),
-                    rows.At(3).ToNumber(),
-                    static_cast<int>(rows.At(4).ToWhole()),
-                    rows.At(5).Trimmed(),
-                    rows.At(6).Trimmed(),
-                    rows.At(7).ToYesNo()};
+  return RulesAt(rows);
+}
+
+QList<ClassRules> FindClasses(Connection& connection, const QString& sanctionID,
+                              const QString& playFormat) {
+  Recordset rows;
+  rows.Open(ClassStatement + QStringLiteral("AND PlayFormat = ? ORDER BY ClassID"), connection,
+            Recordset::Lock::ReadOnly, {sanctionID.trimmed(), playFormat});
+  QList<ClassRules> classes;
+  for (; !rows.AtEnd(); rows.MoveNext()) classes.append(RulesAt(rows));
+  return classes;
 }
 
 QList<Game> ReadClassGames(Connection& connection, const ClassRules& rules) {

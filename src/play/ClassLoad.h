@@ -31,6 +31,10 @@ struct ClassRules {
 std::optional<ClassRules> FindClass(Connection& connection, const QString& sanctionID,
                                     const QString& classID);
 
+/// The classes of a tournament that are played in one format ("S" or "D"), by class.
+QList<ClassRules> FindClasses(Connection& connection, const QString& sanctionID,
+                              const QString& playFormat);
+
 /// The stored games of a class, in the order Game, Court.
 QList<Game> ReadClassGames(Connection& connection, const ClassRules& rules);
 

@@ -44,6 +44,27 @@ GameSide ReadSide(const Row& row, const SideIndex& index) {
   return side;
 }
 
+/// The places of all columns of a game.
+struct GameIndex {
+  GameIndex(const Recordset& games, const PlayFormat& format)
+      : sides{SideIndex(games, format.sides[0]), SideIndex(games, format.sides[1])},
+        number(games.FieldIndex(QStringLiteral("Game"))),
+        court(games.FieldIndex(QStringLiteral("Court"))),
+        shoes(games.FieldIndex(QStringLiteral("Shoes"))),
+        approved(games.FieldIndex(QStringLiteral("Approved"))) {}
+
+  Game Read(const Row& row) const {
+    return {row.Whole(number),
+            row.At(court).ToText(),
+            row.Whole(shoes),
+            row.At(approved).ToYesNo(),
+            {ReadSide(row, sides[0]), ReadSide(row, sides[1])}};
+  }
+
+  std::array<SideIndex, 2> sides;
+  int number, court, shoes, approved;
+};
+
 }  // namespace
 
 int GameSide::Ringers() const {
@@ -63,22 +84,16 @@ QStringList EntrantsIn(const QList<Game>& games) {
 }
 
 QList<Game> ReadGames(const Recordset& games, const PlayFormat& format) {
-  const std::array sides = {SideIndex(games, format.sides[0]), SideIndex(games, format.sides[1])};
-  const int number = games.FieldIndex(QStringLiteral("Game"));
-  const int court = games.FieldIndex(QStringLiteral("Court"));
-  const int shoes = games.FieldIndex(QStringLiteral("Shoes"));
-  const int approved = games.FieldIndex(QStringLiteral("Approved"));
+  const GameIndex index(games, format);
   QList<Game> all;
   all.reserve(games.RecordCount());
-  for (int position = 1; position <= games.RecordCount(); ++position) {
-    const Row row{games, position};
-    all.append({row.Whole(number),
-                row.At(court).ToText(),
-                row.Whole(shoes),
-                row.At(approved).ToYesNo(),
-                {ReadSide(row, sides[0]), ReadSide(row, sides[1])}});
-  }
+  for (int position = 1; position <= games.RecordCount(); ++position)
+    all.append(index.Read({games, position}));
   return all;
+}
+
+Game ReadGame(const Recordset& games, int position, const PlayFormat& format) {
+  return GameIndex(games, format).Read({games, position});
 }
 
 Outcome OutcomeOf(const Game& game, int side, const PlayFormat& format) {

@@ -43,6 +43,9 @@ enum class Outcome { None, Win, Loss, Tie };
 /// All rows of a class's game recordset, in its present order; its cursor stays where it is.
 QList<Game> ReadGames(const Recordset& games, const PlayFormat& format);
 
+/// The row at a position of the game recordset, from 1.
+Game ReadGame(const Recordset& games, int position, const PlayFormat& format);
+
 /// The result of a game for one side (0 or 1), approved or not: a forfeit of one's own loses
 /// whatever else happened, the pacer always loses, then the points decide.
 Outcome OutcomeOf(const Game& game, int side, const PlayFormat& format);

@@ -1,7 +1,11 @@
 #include "shell/Screens.h"
 
+#include "play/uctPlayTime.h"
+#include "play/uctPlayTimeTeams.h"
 #include "players/uctProfile.h"
 #include "shell/EmptyScreen.h"
+#include "tournament/uctEntrants.h"
+#include "tournament/uctTournaments.h"
 
 namespace tavrelin {
 
@@ -27,13 +31,13 @@ const QList<MakeScreen>& AllScreens() {
   static const QList<MakeScreen> screens = {
       Make<uctProfile>(),
       Without("uctScores", "Player Stats"),
-      Without("uctTournaments", "Tournament Setup"),
+      Make<uctTournaments>(),
       Without("uctETally", "eTally"),
       Without("uctImport", "Import"),
       Without("uctExport", "Export"),
-      Without("uctEntrants", "Tournament Entries"),
-      Without("uctPlayTime", "Play Singles"),
-      Without("uctPlayTimeTeams", "Play Doubles"),
+      Make<uctEntrants>(),
+      Make<uctPlayTime>(),
+      Make<uctPlayTimeTeams>(),
       Without("uctPlayerReports", "Player Reports"),
       Without("uctAfterPlay", "Tournament Reports"),
       Without("uctLabelList", "Label Lists"),

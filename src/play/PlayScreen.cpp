@@ -1,0 +1,347 @@
+#include "play/PlayScreen.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+
+#include "controls/GridEX.h"
+#include "controls/GridRow.h"
+#include "play/CheckGame.h"
+#include "play/CourtBox.h"
+#include "play/Figures.h"
+#include "play/Pairing.h"
+#include "play/PlayColumns.h"
+#include "play/PlayFormat.h"
+#include "play/PlayScreenData.h"
+#include "play/RankOverride.h"
+#include "play/ScoreNames.h"
+#include "shell/MessageBar.h"
+#include "shell/Operator.h"
+#include "shell/Store.h"
+#include "tournament/Entries.h"
+#include "tournament/TournamentBox.h"
+
+namespace tavrelin {
+
+PlayScreen::PlayScreen(const QString& name, const QString& title, const PlayFormat& format,
+                       const Surroundings& surroundings, QWidget* parent)
+    : Screen(name, title, surroundings, parent), format_(format) {
+  BuildControls();
+  BuildScores();
+  BuildStandings();
+  WireUp();
+  LayOut();
+  ShowNothing();
+}
+
+PlayScreen::~PlayScreen() = default;
+
+void PlayScreen::BuildScores() {
+  GridEX1_->SetColumns(ScoreColumns(format_));
+  GridEX1_->SetIcons(ScoreIcons());
+  GridEX1_->SetAllowAddNew(true);
+  GridEX1_->SetAllowDelete(true);
+  GridEX1_->SetRecordCaption("games");
+  GridEX1_->SetEmptyText(
+      "Choose a tournament and a class and press Load; then Create Pair makes its games.");
+  GridEX1_->on.KeyDown = [this](GridKeyDown& event) { GridEX1_KeyDown(event); };
+  GridEX1_->on.RowColChange = [this](int lastRow, int) { GridEX1_RowColChange(lastRow); };
+  GridEX1_->on.AfterColEdit = [this](GridColEdit& event) { GridEX1_AfterColEdit(event); };
+  GridEX1_->on.BeforeUpdate = [this](GridUpdate& event) { GridEX1_BeforeUpdate(event); };
+  GridEX1_->on.FetchIcon = [this](GridFetchIcon& event) { GridEX1_FetchIcon(event); };
+  GridEX1_->on.BeforeDelete = [this](GridDelete& event) {
+    event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected pair?");
+  };
+}
+
+void PlayScreen::BuildStandings() {
+  GridEX2_->SetColumns(StandingsColumns(format_));
+  GridEX2_->SetEmptyText("Load a class to see its standing.");
+  GridEX2_->on.FetchData = [this](GridFetchData& event) { GridEX2_FetchData(event); };
+  // The order of the list is the standing itself.
+  GridEX2_->on.ColumnHeaderClick = [](const QString&) {};
+}
+
+void PlayScreen::WireUp() {
+  const auto onClick = [this](QAbstractButton* button, const char* procedure,
+                              void (PlayScreen::*handler)()) {
+    connect(button, &QAbstractButton::clicked, this,
+            [=, this] { Event(procedure, [=, this] { (this->*handler)(); }); });
+  };
+  onClick(cmdLoad_, "cboLoad_Click", &PlayScreen::cboLoad_Click);
+  onClick(optBye_, "optBye_Click", &PlayScreen::optBye_Click);
+  onClick(cmdCreatePair_, "cmdCreatePair_Click", &PlayScreen::cmdCreatePair_Click);
+  onClick(cmdDeletePair_, "cmdDeletePair_Click", &PlayScreen::cmdDeletePair_Click);
+  onClick(chkChecker_, "chkChecker_Click", &PlayScreen::chkChecker_Click);
+  onClick(chkForfeit_, "chkForfeit_Click", &PlayScreen::chkForfeit_Click);
+  onClick(cmdView_, "cmdView_Click", &PlayScreen::cmdView_Click);
+  onClick(cmdOverride_, "cmdOverride_Click", &PlayScreen::cmdOverride_Click);
+  connect(cboTournaments_, &TournamentBox::Chosen, this,
+          [this] { Event("cboTournaments_LostFocus", [this] { cboTournaments_LostFocus(); }); });
+  connect(SSTab1_, &QTabWidget::currentChanged, this,
+          [this] { Event("SSTab1_Click", [this] { SSTab1_Click(); }); });
+}
+
+void PlayScreen::UserControl_Show() {
+  const Store& store = around().store;
+  chkChecker_->setChecked(store.GetRegistryString({}, "ScoreCheck", "0") == "1");
+  chkForfeit_->setChecked(store.GetRegistryString({}, "Forfeit", "0") == "1");
+  chkChecker_Click();
+  chkForfeit_Click();
+  data_ = std::make_unique<Data>();
+  data_->connection.Open(ConnectString);
+  SSTab1_->setCurrentIndex(0);
+  cboTournaments_->Offer(TournamentChoices(data_->connection),
+                         store.GetRegistryString({}, "RecentTournament"));
+  cboTournaments_LostFocus();
+  (cboClasses_->count() > 0 ? static_cast<QWidget*>(cboClasses_) : cboTournaments_)->setFocus();
+}
+
+void PlayScreen::UserControl_Hide() {
+  GridEX1_->CommitRow();
+  GridEX1_->SetRecordset(nullptr);
+  GridEX2_->SetRecordset(nullptr);
+  data_.reset();
+  ShowNothing();
+  Store& store = around().store;
+  store.SaveRegistryString({}, "RecentTournament", cboTournaments_->currentText().trimmed());
+  if (format_.sides[0].forfeit.isEmpty()) return;
+  store.SaveRegistryString({}, "ScoreCheck", chkChecker_->isChecked() ? "1" : "0");
+  store.SaveRegistryString({}, "Forfeit", chkForfeit_->isChecked() ? "1" : "0");
+}
+
+// Choosing a class
+
+void PlayScreen::cboTournaments_LostFocus() {
+  if (!DropClass()) return;
+  sanctionID_ = cboTournaments_->SanctionID();
+  cboClasses_->clear();
+  for (const ClassRules& rules : FindClasses(data_->connection, sanctionID_, format_.code))
+    cboClasses_->addItem(rules.name.isEmpty() ? rules.classID : rules.classID + "  " + rules.name);
+}
+
+void PlayScreen::cboLoad_Click() {
+  const QString classID = cboClasses_->currentText().left(3).trimmed();
+  if (classID.isEmpty() || !DropClass()) return;
+  if (!ReadClass(classID)) return;
+  stsInfo()->ClearMessage();
+  if (data_->loaded.isPaired) {
+    ShowPaired();
+  } else {
+    ShowUnpaired();
+  }
+  if (SSTab1_->currentIndex() == 1) ShowStandings();
+}
+
+bool PlayScreen::DropClass() {
+  if (!GridEX1_->CommitRow()) return false;
+  GridEX1_->SetRecordset(nullptr);
+  GridEX2_->SetRecordset(nullptr);
+  data_->loaded = {};
+  data_->standings = {};
+  ShowNothing();
+  return true;
+}
+
+bool PlayScreen::ReadClass(const QString& classID) {
+  const std::optional<ClassRules> rules = FindClass(data_->connection, sanctionID_, classID);
+  if (!rules) return false;
+  data_->loaded = LoadClass(data_->connection, *rules);
+  if (data_->loaded.refusal.isEmpty()) return true;
+  Refuse(data_->loaded.refusal);
+  return false;
+}
+
+// The three states of the screen: nothing loaded, a class without games, a class with games
+
+void PlayScreen::ShowNothing() {
+  SetPairingEnabled(false);
+  cmdDeletePair_->setEnabled(false);
+  GridEX1_->setEnabled(false);
+  cmdView_->setEnabled(false);
+  cmdOverride_->setEnabled(false);
+  lblOverride_->clear();
+}
+
+void PlayScreen::ShowUnpaired() {
+  SetPairingEnabled(true);
+  courts_->Offer(data_->loaded.courts);
+  cboRounds_->setCurrentText("1");
+  courts_->TakeFocus();
+}
+
+void PlayScreen::ShowPaired() {
+  cmdDeletePair_->setEnabled(true);
+  cmdView_->setEnabled(true);
+  GridEX1_->setEnabled(true);
+  NameEntrants();
+  GridEX1_->SetRecordset(&data_->loaded.games);
+  GridEX1_->AddSortKey("Game");
+  GridEX1_->AddSortKey("Court");
+  GridEX1_->SetRow(1);
+  GridEX1_->setFocus();
+}
+
+void PlayScreen::SetPairingEnabled(bool enabled) {
+  const bool odd = enabled && data_->loaded.IsOdd();
+  courts_->Clear();
+  cboRounds_->setCurrentIndex(0);
+  cboRounds_->setEnabled(enabled);
+  cmdCreatePair_->setEnabled(enabled);
+  for (QRadioButton* choice : {optBye_, optPacer_}) {
+    choice->group()->setExclusive(false);
+    choice->setChecked(false);
+    choice->group()->setExclusive(true);
+    choice->setEnabled(odd);
+  }
+}
+
+void PlayScreen::NameEntrants() {
+  const EntrantLists lists = NamesForScores(data_->connection, data_->loaded);
+  for (const SideColumns& side : format_.sides) {
+    GridEX1_->SetValueList(side.id, lists.entrants);
+    if (side.throwers.size() < 2) continue;
+    for (const QString& thrower : side.throwers) GridEX1_->SetValueList(thrower, lists.throwers);
+  }
+}
+
+// Pairing
+
+void PlayScreen::optBye_Click() {
+  const CourtRemark remark = CheckByeCourts(courts_->Courts());
+  if (remark.text.isEmpty()) return;
+  Refuse(remark.text);
+  if (!remark.isAdvice) courts_->TakeFocus();
+}
+
+void PlayScreen::cmdCreatePair_Click() {
+  PairingChoice choice;
+  choice.courts = courts_->Courts();
+  choice.rounds = RoundsOf(cboRounds_->currentText());
+  if (optBye_->isChecked()) choice.odd = OddEntrant::Bye;
+  if (optPacer_->isChecked()) choice.odd = OddEntrant::Pacer;
+  const QString refusal = CreatePairing(data_->connection, data_->loaded.rules, choice);
+  if (refusal.isEmpty()) return cboLoad_Click();
+  Refuse(refusal);
+  if (optBye_->isEnabled() && choice.odd == OddEntrant::NotChosen) optBye_->setFocus();
+}
+
+void PlayScreen::cmdDeletePair_Click() {
+  if (!around().person.Confirm("Confirm Deletion", "Delete entire class pairing?")) return;
+  GridEX1_->SetDataChanged(false);
+  DeletePairing(data_->connection, data_->loaded.rules);
+  DropClass();
+}
+
+// Scores
+
+void PlayScreen::chkChecker_Click() {
+  for (const char* key : {"POneSinglePts", "PTwoSinglePts"}) {
+    GridEX1_->SetColumnVisible(key, chkChecker_->isChecked());
+    GridEX1_->SetSelectable(key, chkChecker_->isChecked());
+  }
+}
+
+void PlayScreen::chkForfeit_Click() {
+  for (const SideColumns& side : format_.sides)
+    GridEX1_->SetColumnVisible(side.forfeit, chkForfeit_->isChecked());
+}
+
+void PlayScreen::cmdView_Click() {
+  if (GridEX1_->isVisible()) FlipScoreView(*GridEX1_, format_);
+}
+
+void PlayScreen::GridEX1_KeyDown(GridKeyDown& event) {
+  const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
+  const int game = GridEX1_->ColumnNumber("Game");
+  if (enter && GridEX1_->IsNewRow() && !GridEX1_->DataChanged()) {
+    event.swallow = GridEX1_->SetCol(game);
+  } else if (event.key == Qt::Key_Left && GridEX1_->Col() == game) {
+    event.swallow = GridEX1_->ClearCol();
+  }
+}
+
+// A game that has no shoes yet starts there.
+void PlayScreen::GridEX1_RowColChange(int lastRow) {
+  const Value shoes = GridEX1_->Value("Shoes");
+  if (GridEX1_->Row() != lastRow && !shoes.IsNull() && shoes.ToNumber() == 0)
+    GridEX1_->SetCol("Shoes");
+}
+
+void PlayScreen::GridEX1_AfterColEdit(GridColEdit& event) {
+  if (event.column != "Court") return;
+  GridEX1_->SetValue("Court", RightJustifyCourt(GridEX1_->Value("Court").ToText()));
+}
+
+void PlayScreen::GridEX1_BeforeUpdate(GridUpdate& event) {
+  const RowValues values = CurrentRow(*GridEX1_);
+  const auto row = [&values](const QString& field) { return values.value(field); };
+  GameContext context{data_->loaded.rules, data_->loaded.games, data_->loaded.list};
+  context.newRow = event.newRow;
+  context.scoreChecker = chkChecker_->isChecked();
+  RowCheck check = CheckGame(row, context);
+  if (check.verdict == RowCheck::Verdict::Ask) {
+    context.manyShoes = Ask(check);
+    check = CheckGame(row, context);
+  }
+  Settle(check, *GridEX1_, event);
+}
+
+void PlayScreen::GridEX1_FetchIcon(GridFetchIcon& event) {
+  if (event.row < 1) return;
+  const Game game = ReadGame(data_->loaded.games, event.row, format_);
+  const int side = format_.sides[0].id.chopped(2) + "WL" == event.column ? 0 : 1;
+  event.icon = 1 + static_cast<int>(GameIcon(game, side, format_));
+}
+
+// Results
+
+void PlayScreen::SSTab1_Click() {
+  if (!data_ || SSTab1_->currentIndex() == 0) return;
+  if (!GridEX1_->CommitRow()) return SSTab1_->setCurrentIndex(0);
+  ShowStandings();
+}
+
+void PlayScreen::ShowStandings() {
+  GridEX2_->SetRecordset(nullptr);
+  if (data_->loaded.rules.classID.isEmpty()) return;
+  data_->standings = RankTheClass(data_->connection, data_->loaded.rules);
+  if (!data_->standings.refusal.isEmpty()) return Refuse(data_->standings.refusal);
+  NumberPlaces(data_->standings.rows, data_->standings.rules.rankOverride);
+  GridEX2_->SetRecordset(&data_->standings.rows);
+  ShowOverride();
+}
+
+void PlayScreen::ShowOverride() {
+  const bool stands = data_->standings.rules.rankOverride;
+  lblOverride_->setText(stands ? "Rank Override is in affect for this Class"
+                               : "No Rank Override has been applied to this Class");
+  cmdOverride_->setText(stands ? "Remove Override" : "Apply Override");
+  cmdOverride_->setEnabled(true);
+  GridEX2_->SetEditable("Override", !stands);
+}
+
+void PlayScreen::cmdOverride_Click() {
+  if (!GridEX2_->CommitRow()) return;
+  Standings& standings = data_->standings;
+  QString refusal;
+  if (standings.rules.rankOverride) {
+    RemoveOverride(data_->connection, standings.rules, standings.rows);
+  } else {
+    refusal = ApplyOverride(data_->connection, standings.rules, standings.rows);
+  }
+  data_->loaded.rules.rankOverride = standings.rules.rankOverride;
+  GridEX2_->Rebind();
+  if (!refusal.isEmpty()) return Refuse(refusal);
+  ShowOverride();
+}
+
+void PlayScreen::GridEX2_FetchData(GridFetchData& event) {
+  event.text = HalfWinText(event.value.ToNumber());
+}
+
+}  // namespace tavrelin

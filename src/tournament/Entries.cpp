@@ -1,0 +1,220 @@
+#include "tournament/Entries.h"
+
+#include <cmath>
+#include <limits>
+
+#include "basic/Conversions.h"
+#include "basic/Picture.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "players/EntryAverage.h"
+
+namespace tavrelin {
+
+namespace {
+
+struct Partner {
+  QString playerID;
+  QString category;
+  double rosterAverage = 0;  ///< 0 when the roster has none
+};
+
+// Partners by team, each team's in the order in which they were put on it. Players who have left
+// the roster are no partners any more.
+QMap<int, QList<Partner>> PartnersByTeam(Connection& connection, const QString& condition = {}) {
+  Recordset rows;
+  rows.Open(
+      "SELECT t.TeamID, t.PlayerID, p.Category, p.Average FROM TeamPlayers t, Players p "
+      "WHERE t.PlayerID = p.PlayerID" +
+          condition,
+      connection);
+  QMap<int, QList<Partner>> teams;
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    teams[CLng(rows["TeamID"])].append(
+        {rows["PlayerID"].Trimmed(), rows["Category"].Trimmed(), rows["Average"].ToNumber()});
+  }
+  return teams;
+}
+
+bool IsEntered(Connection& connection, const QString& sanctionID, int teamID) {
+  Recordset entries;
+  entries.Open("SELECT TeamID FROM TournamentTeamEntrants WHERE SanctionID = ? AND TeamID = ?",
+               connection, Recordset::Lock::ReadOnly, {sanctionID, teamID});
+  return !entries.AtEnd();
+}
+
+// Half the sum of the two, but a second player counts only beside a first one who has an average.
+double TeamAverage(const QList<Partner>& partners) {
+  double sum = partners[0].rosterAverage;
+  if (partners[1].rosterAverage != 0 && sum != 0) sum += partners[1].rosterAverage;
+  return sum / 2;
+}
+
+QString BrokenEntryRule(const RowValues& row) {
+  if (!IsNumeric(row.value("RingerPercent"))) return "Invalid ringer percent";
+  if (!IsNumeric(row.value("Paid"))) return "Invalid payment";
+  if (!IsNumeric(row.value("Seed"))) return "Invalid seed";
+  return {};
+}
+
+// A count of shoes is a 16-bit number, as the columns that it is compared in.
+bool IsCount(const Value& value) {
+  constexpr double Most = std::numeric_limits<qint16>::max();
+  return IsNumeric(value) && std::abs(CDbl(value)) <= Most;
+}
+
+QString BrokenShoesRule(const RowValues& row) {
+  if (!IsCount(row.value("TotalShoes"))) return "Invalid Shoes";
+  if (!IsCount(row.value("TotalRingers"))) return "Invalid Ringers";
+  if (CInt(row.value("TotalRingers")) > CInt(row.value("TotalShoes")))
+    return "Ringers cannot be greater than Shoes";
+  return {};
+}
+
+RowCheck RefusedIf(const QString& broken) {
+  RowCheck check;
+  if (!broken.isEmpty()) check.Refuse(broken);
+  return check;
+}
+
+constexpr const char* TwoPlayers = "Team must have two players";
+
+}  // namespace
+
+QList<TournamentChoice> TournamentChoices(Connection& connection) {
+  Recordset rows;
+  rows.Open("SELECT SanctionID, Name, Date FROM Tournaments ORDER BY Date DESC", connection);
+  QList<TournamentChoice> choices;
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    const QString sanctionID = rows["SanctionID"].Trimmed();
+    const QString name = rows["Name"].Trimmed();
+    QString text = FormatSanction(sanctionID);
+    if (!rows["Name"].IsNull()) text += "   " + name;
+    choices.append({sanctionID, text, name, rows["Date"].ToDate()});
+  }
+  return choices;
+}
+
+QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
+                           const QString& playFormat) {
+  Recordset rows;
+  rows.Open("SELECT ClassID, Name, PlayFormat FROM TournamentClasses WHERE SanctionID = ? ",
+            connection, Recordset::Lock::ReadOnly, {sanctionID});
+  rows.SetFilter("PlayFormat = '" + EscapeQuotes(playFormat) + "'");
+  QList<Choice> choices;
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    const QString classID = rows["ClassID"].Trimmed();
+    choices.append({classID, classID + "   " + rows["Name"].ToText()});
+  }
+  return choices;
+}
+
+QString EntryCategoryText(const QString& category) {
+  static const QMap<QString, QString> texts = {
+      {"AM", "Men"},       {"AW", "Women"},      {"JB", "Jr Boy"},
+      {"JG", "Jr Girl"},   {"EM", "Elder"},      {"CA", "Cadet"},
+      {"CB", "Cadet Boy"}, {"CG", "Cadet Girl"}, {"AX", "Exempt"}};
+  return texts.value(category.toUpper(), "Unknown");
+}
+
+RowCheck CheckSecondEntry(Recordset& entries, const QString& playerID) {
+  RowCheck check;
+  if (entries.RecordCount() == 0) return check;
+  entries.MoveFirst();
+  entries.Find("PlayerID = '" + EscapeQuotes(playerID) + "'");
+  if (entries.AtEnd()) return check;
+  if (entries["ClassID"].Trimmed().isEmpty())
+    return check.Refuse(
+        "Player already entered in tournament. Cannot be entered again until first "
+        "entry is placed in a class. ");
+  check.message = "Player already entered in tournament. Enter again? ";
+  return check.AskFirst("Duplicate Entry", check.message);
+}
+
+double EnterPlayer(Connection& connection, const QString& sanctionID, const QString& playerID,
+                   const QString& category, const QDate& today) {
+  const double average = EntryAverage(connection, playerID, category, today);
+  connection.Execute(
+      "INSERT INTO TournamentEntrants (SanctionID, PlayerID, RingerPercent, RankOverride, ClassID) "
+      "VALUES (?, ?, ?, 0, '')",
+      {sanctionID, playerID, average});
+  return average;
+}
+
+RowCheck EnterTeam(Connection& connection, const QString& sanctionID, int teamID,
+                   const QDate& today) {
+  RowCheck check;
+  if (IsEntered(connection, sanctionID, teamID))
+    return check.Refuse("Team already entered in Tournament");
+  const QList<Partner> partners =
+      PartnersByTeam(connection, " AND t.TeamID = " + QString::number(teamID)).value(teamID);
+  if (partners.size() != 2) return check.Refuse(TwoPlayers);
+
+  Partner one = partners[0], two = partners[1];
+  const double first = EntryAverage(connection, one.playerID, one.category, today);
+  const double second = EntryAverage(connection, two.playerID, two.category, today);
+  if (second > first) std::swap(one, two);
+  connection.Execute(
+      "INSERT INTO TournamentTeamEntrants (SanctionID, TeamID, RingerPercent, PlayerOneID, "
+      "PlayerTwoID) VALUES (?, ?, ?, ?, ?)",
+      {sanctionID, teamID, (first + second) / 2, one.playerID, two.playerID});
+  return check;
+}
+
+RowCheck CheckAverageUpdate(const QDateTime& tournamentDate, const QDate& today) {
+  RowCheck check;
+  if (today > tournamentDate.date())
+    check.AskFirst("Confirm update", "Tournament occurs in the past.  Continue?");
+  return check;
+}
+
+void UpdatePlayerAverages(Connection& connection, const QString& sanctionID) {
+  Recordset rows;
+  rows.Open(
+      "SELECT DISTINCT e.PlayerID, p.Average FROM TournamentEntrants e, Players p "
+      "WHERE e.SanctionID = ? AND e.PlayerID = p.PlayerID",
+      connection, Recordset::Lock::ReadOnly, {sanctionID});
+  Batch batch(connection);
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    const double average = rows["Average"].ToNumber();
+    if (average == 0) continue;
+    connection.Execute(
+        "UPDATE TournamentEntrants SET RingerPercent = ? WHERE SanctionID = ? AND PlayerID = ?",
+        {average, sanctionID, rows["PlayerID"]});
+  }
+  batch.Commit();
+}
+
+RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID) {
+  RowCheck check;
+  const QMap<int, QList<Partner>> teams = PartnersByTeam(connection);
+  Recordset rows;
+  rows.Open("SELECT TeamID FROM TournamentTeamEntrants WHERE SanctionID = ?", connection,
+            Recordset::Lock::ReadOnly, {sanctionID});
+  Batch batch(connection);
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    const QList<Partner> partners = teams.value(CLng(rows["TeamID"]));
+    if (partners.size() != 2) {
+      check.Refuse(TwoPlayers);
+      break;
+    }
+    const double average = TeamAverage(partners);
+    if (average == 0) continue;
+    connection.Execute(
+        "UPDATE TournamentTeamEntrants SET RingerPercent = ? WHERE SanctionID = ? AND TeamID = ?",
+        {average, sanctionID, rows["TeamID"]});
+  }
+  batch.Commit();
+  return check;
+}
+
+RowCheck CheckEntry(const RowValues& row) {
+  const QString broken = BrokenEntryRule(row);
+  return RefusedIf(broken.isEmpty() ? BrokenShoesRule(row) : broken);
+}
+
+RowCheck CheckTeamEntry(const RowValues& row) {
+  return RefusedIf(BrokenEntryRule(row));
+}
+
+}  // namespace tavrelin

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include "basic/RowCheck.h"
+
+namespace tavrelin {
+
+class Connection;
+class Recordset;
+
+/// One tournament as the boxes of the play screens offer it.
+struct TournamentChoice {
+  QString sanctionID;
+  QString text;  ///< "@@-@@-@@@", three blanks, the name
+  QString name;
+  QDateTime date;  ///< invalid when the file holds none
+};
+
+/// All tournaments, the latest first.
+QList<TournamentChoice> TournamentChoices(Connection& connection);
+
+/// A code and what is shown for it, for value lists.
+struct Choice {
+  QString code;
+  QString text;
+};
+
+/// The classes of a tournament that are played in one format ("S" or "D"): class, three blanks,
+/// name.
+QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
+                           const QString& playFormat);
+
+/// The word for a division beside an entry; "Unknown" for a code that is none of ours.
+QString EntryCategoryText(const QString& category);
+
+/// May this player be entered (again)? `entries` holds the tournament's singles entries; its cursor
+/// is moved. A player may stand in several classes, so a second entry is asked for, but not before
+/// the first one has its class.
+RowCheck CheckSecondEntry(Recordset& entries, const QString& playerID);
+
+/// Enters a player without a class and returns the entry average he got, in percent.
+double EnterPlayer(Connection& connection, const QString& sanctionID, const QString& playerID,
+                   const QString& category, const QDate& today);
+
+/// Enters a team of exactly two players, the stronger as player one, with the mean of their entry
+/// averages. Refused: a team that is entered already, or that has not exactly two players on the
+/// roster.
+RowCheck EnterTeam(Connection& connection, const QString& sanctionID, int teamID,
+                   const QDate& today);
+
+/// What the operator is asked before averages are brought up to date; Save when nothing needs
+/// asking.
+RowCheck CheckAverageUpdate(const QDateTime& tournamentDate, const QDate& today);
+
+/// The roster's averages into the singles entries of a tournament; a player without one keeps what
+/// he has.
+void UpdatePlayerAverages(Connection& connection, const QString& sanctionID);
+
+/// The same for team entries. A team that no longer has exactly two players stops the run with a
+/// refusal; teams before it stay changed. The first player's average counts if there is one, the
+/// second's only beside it; the team gets half the sum, so a partner without an average halves the
+/// first one's.
+RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID);
+
+/// A singles entry about to be saved: percent, payment, seed, shoes and ringers are numbers,
+/// ringers within shoes.
+RowCheck CheckEntry(const RowValues& row);
+
+/// A team entry about to be saved: percent, payment and seed are numbers.
+RowCheck CheckTeamEntry(const RowValues& row);
+
+}  // namespace tavrelin

@@ -1,0 +1,172 @@
+#include "tournament/EntrySide.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "basic/Conversions.h"
+#include "controls/GridEX.h"
+#include "controls/TypedSearch.h"
+#include "data/Connection.h"
+#include "shell/Labels.h"
+#include "tournament/Entries.h"
+
+namespace tavrelin {
+
+EntrySide::EntrySide(EntrySideKind kind, const GridGuard& guard, QWidget* parent)
+    : QWidget(parent),
+      kind_(std::move(kind)),
+      list_(new GridEX(kind_.listName, kind_.listCaption, guard, this)),
+      entries_(new GridEX(kind_.entriesName, kind_.entriesCaption, guard, this)) {
+  BuildList();
+  BuildEntries();
+  LayOut();
+}
+
+EntrySide::~EntrySide() = default;
+
+void EntrySide::BuildList() {
+  list_->SetColumns(kind_.listColumns);
+  list_->SetAllowEdit(false);
+  list_->SetRowMode(true);
+  list_->SetEmptyText(kind_.listEmptyText);
+  search_ = std::make_unique<TypedSearch>(*list_, 1500, [this](const QString& typed) {
+    return TypedSearch::ByStart(kind_.searchField, typed);
+  });
+  search_->SetDigits(false);
+  list_->on.KeyDown = [this](GridKeyDown& event) { List_KeyDown(event); };
+  list_->on.DblClick = [this] {
+    if (entries_->isEnabled() && Selected) Selected();
+  };
+}
+
+void EntrySide::BuildEntries() {
+  entries_->SetColumns(kind_.entryColumns);
+  entries_->SetAllowDelete(true);
+  entries_->SetEmptyText(kind_.entriesEmptyText);
+  entries_->setEnabled(false);
+  entries_->on.KeyDown = [this](GridKeyDown& event) { Entries_KeyDown(event); };
+  entries_->on.ColumnHeaderClick = [this](const QString& column) {
+    Entries_ColumnHeaderClick(column);
+  };
+}
+
+void EntrySide::LayOut() {
+  auto* halves = new QHBoxLayout(this);
+  halves->setSpacing(16);
+  const auto addHalf = [&](const QString& label, const QString& caption, GridEX* grid,
+                           int stretch) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(8);
+    column->addWidget(NewHeading(label, caption, grid, this));
+    column->addWidget(grid, 1);
+    halves->addLayout(column, stretch);
+  };
+  addHalf(kind_.listLabel, kind_.listCaption, list_, 4);
+  addHalf(kind_.entriesLabel, kind_.entriesCaption, entries_, 7);
+}
+
+void EntrySide::ShowList(Connection& connection) {
+  list_->SetRecordset(nullptr);
+  listRows_.Open(kind_.listQuery, connection);
+  list_->SetRecordset(&listRows_);
+}
+
+void EntrySide::ShowEntries(Connection& connection, const QString& sanctionID,
+                            const QString& columns) {
+  entries_->SetRecordset(nullptr);
+  entryRows_.Open("SELECT " + (columns.isEmpty() ? kind_.entryColumnsQuery : columns) + " FROM " +
+                      kind_.entryTable + " e WHERE e.SanctionID = '" + EscapeQuotes(sanctionID) +
+                      "' ",
+                  connection, Recordset::Lock::Optimistic);
+  entryKeys_ = entryRows_.Clone();
+  NameEntrants(connection, sanctionID);
+  entries_->SetRecordset(&entryRows_);
+  entries_->AddSortKey("ClassID", SortOrder::Ascending);
+  entries_->AddSortKey("RingerPercent", SortOrder::Descending);
+}
+
+// Names for those who are entered alone; one who has left the roster is told by his number.
+void EntrySide::NameEntrants(Connection& connection, const QString& sanctionID) {
+  Recordset rows;
+  rows.Open(kind_.namesQuery, connection, Recordset::Lock::ReadOnly, {sanctionID});
+  ValueList names, categories;
+  for (; !rows.AtEnd(); rows.MoveNext()) {
+    names.Add(rows.At(0), rows.At(1).ToText());
+    categories.Add(rows.At(0), EntryCategoryText(rows.At(2).Trimmed()));
+  }
+  for (int position = 1; position <= entryKeys_.RecordCount(); ++position) {
+    const Value entrant = entryKeys_.CellAt(position, entryKeys_.FieldIndex(kind_.entrantField));
+    if (names.IndexOf(entrant) < 0) names.Add(entrant, entrant.ToText() + kind_.missingText);
+  }
+  entries_->SetValueList(kind_.entrantField, names);
+  entries_->SetValueList("Category", categories);
+}
+
+void EntrySide::OfferClasses(Connection& connection, const QString& sanctionID) {
+  ValueList classes;
+  for (const Choice& choice : ClassChoices(connection, sanctionID, kind_.playFormat))
+    classes.Add(choice.code, choice.text);
+  entries_->SetValueList("ClassID", classes);
+}
+
+void EntrySide::GoToPayment(const QString& entrant) {
+  entries_->setFocus();
+  for (int row = 1; row <= entries_->RowCount(); ++row) {
+    if (entries_->ValueAt(row, kind_.entrantField).Trimmed() != entrant) continue;
+    entries_->SetRow(row);
+    entries_->SetCol("Paid");
+    return;
+  }
+}
+
+void EntrySide::SetEntriesEnabled(bool enabled) {
+  entries_->setEnabled(enabled);
+}
+
+void EntrySide::Release() {
+  entries_->CommitRow();
+  for (GridEX* grid : {list_, entries_}) grid->SetRecordset(nullptr);
+  for (Recordset* rows : {&listRows_, &entryKeys_, &entryRows_}) rows->Close();
+  SetEntriesEnabled(false);
+}
+
+void EntrySide::List_KeyDown(GridKeyDown& event) {
+  const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
+  if (enter && entries_->isEnabled() && list_->Row() > 0) {
+    event.swallow = true;
+    if (Selected) Selected();
+  } else if (event.key == Qt::Key_Left || event.key == Qt::Key_Right) {
+    list_->ClearCol();
+  } else {
+    search_->KeyDown(event);
+  }
+}
+
+bool EntrySide::IsFirstCell() const {
+  for (int col = entries_->Col() - 1; col >= 1; --col) {
+    const GridColumn& column = entries_->Columns().at(col - 1);
+    if (column.visible && column.selectable) return false;
+  }
+  return true;
+}
+
+void EntrySide::Entries_KeyDown(GridKeyDown& event) {
+  const bool back = event.key == Qt::Key_Backtab && IsFirstCell();
+  if (event.key == Qt::Key_Escape || back) {
+    event.swallow = true;
+    list_->setFocus();
+  } else if (event.key == Qt::Key_Left && IsFirstCell()) {
+    event.swallow = true;
+  }
+}
+
+// Equal values remain in order of strength.
+void EntrySide::Entries_ColumnHeaderClick(const QString& column) {
+  const SortOrder order = entries_->NextOrder(column);
+  entries_->ClearSortKeys();
+  entries_->AddSortKey(column, order);
+  if (column != "RingerPercent") entries_->AddSortKey("RingerPercent", SortOrder::Descending);
+}
+
+}  // namespace tavrelin

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace tavrelin {
+
+struct TournamentChoice;
+
+/// The box in which a tournament is chosen (`cboTournaments`): picked from the list, the latest
+/// first, or typed.
+class TournamentBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit TournamentBox(QWidget* parent);
+
+  /// Offers the tournaments anew and shows `preset`, a text as RecentTournament keeps it.
+  void Offer(const QList<TournamentChoice>& choices, const QString& preset);
+  /// The number in the text; empty when there is none.
+  QString SanctionID() const;
+
+ Q_SIGNALS:
+  /// Another tournament than before was picked, or the box was left with another text.
+  void Chosen();
+
+ private:
+  void TextSettled();
+
+  QString settled_;
+};
+
+}  // namespace tavrelin

@@ -1,0 +1,291 @@
+#include "tournament/uctEntrants.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "controls/GridEX.h"
+#include "controls/GridRow.h"
+#include "data/Connection.h"
+#include "shell/Labels.h"
+#include "shell/MessageBar.h"
+#include "shell/Operator.h"
+#include "shell/Store.h"
+#include "tournament/Entries.h"
+#include "tournament/EntrySide.h"
+#include "tournament/TournamentBox.h"
+
+namespace tavrelin {
+
+namespace {
+
+// What "Update % from Profile" shows again of the entries: shoes and ringers stand empty until the
+// tournament is chosen anew.
+constexpr const char* ColumnsAfterUpdate =
+    "e.SanctionID, e.PlayerID, e.Paid, e.Seed, e.RingerPercent, e.ClassID";
+
+GridColumn Amount(const char* caption, const char* field, const char* picture, int width) {
+  return {.caption = caption,
+          .field = field,
+          .width = width,
+          .editor = CellEditor::Number,
+          .picture = picture,
+          .alignment = Qt::AlignRight,
+          .sort = SortKind::Numeric};
+}
+
+GridColumn Count(const char* caption, const char* field, const char* key) {
+  return {.caption = caption,
+          .field = field,
+          .key = key,
+          .width = 800,
+          .editor = CellEditor::Number,
+          .alignment = Qt::AlignRight,
+          .sort = SortKind::Numeric};
+}
+
+GridColumn ClassColumn() {
+  return {.caption = "Class", .field = "ClassID", .width = 1700, .editor = CellEditor::List};
+}
+
+EntrySideKind SinglesKind() {
+  EntrySideKind kind;
+  kind.listName = "GridEX1";
+  kind.listLabel = "Label2";
+  kind.listCaption = "Player List";
+  kind.entriesName = "GridEX2";
+  kind.entriesLabel = "Label3";
+  kind.entriesCaption = "Players Entered";
+  kind.listColumns = {
+      {.caption = "PlayerID", .field = "PlayerID", .visible = false},
+      {.caption = "Category", .field = "Category", .visible = false},
+      {.caption = "Name", .field = "PlayerName", .width = 2800, .fill = true},
+      {.caption = "Card", .field = "CardNumber", .width = 900, .sort = SortKind::Numeric},
+      {.caption = "St", .field = "State", .width = 600},
+      {.caption = "Year", .field = "CardYear", .width = 750},
+  };
+  kind.entryColumns = {
+      {.caption = "SanctionID", .field = "SanctionID", .visible = false},
+      {.caption = "Name", .field = "PlayerID", .width = 2400, .selectable = false, .fill = true},
+      {.caption = "Cat",
+       .field = "PlayerID",
+       .key = "Category",
+       .width = 1000,
+       .selectable = false},
+      Amount("Paid", "Paid", "##0.00", 900),
+      Count("Seed", "Seed", ""),
+      Amount("%", "RingerPercent", "##0.00", 900),
+      ClassColumn(),
+      Count("Shoes", "TotalShoes", "Shoes"),
+      Count("Rgrs", "TotalRingers", "Ringers"),
+      {.caption = "Rank",
+       .field = "RankOverride",
+       .visible = false,
+       .selectable = false,
+       .defaultValue = 0},
+  };
+  kind.listQuery =
+      "SELECT PlayerID, RTRIM(LastName) + ', ' + FirstName AS PlayerName, LastName, FirstName, "
+      "Category, Average, "
+      "CardNumber, State, CardYear FROM Players ORDER BY LastName, FirstName";
+  kind.entryTable = "TournamentEntrants";
+  kind.entryColumnsQuery =
+      "e.SanctionID, e.PlayerID, e.Paid, e.Seed, e.RingerPercent, e.ClassID, e.TotalShoes, "
+      "e.TotalRingers, "
+      "e.RankOverride";
+  kind.entrantField = "PlayerID";
+  kind.namesQuery =
+      "SELECT p.PlayerID, RTRIM(p.LastName) + ', ' + p.FirstName, p.Category FROM "
+      "TournamentEntrants e, Players p "
+      "WHERE e.SanctionID = ? AND e.PlayerID = p.PlayerID";
+  kind.missingText = " (not on the roster)";
+  kind.searchField = "LastName";
+  kind.playFormat = "S";
+  kind.listEmptyText = "No players on the roster yet. Add them under Players / Profile.";
+  kind.entriesEmptyText = "Choose a tournament, then press Enter on a player to enter him.";
+  return kind;
+}
+
+EntrySideKind DoublesKind() {
+  EntrySideKind kind;
+  kind.listName = "GridEX3";
+  kind.listLabel = "Label5";
+  kind.listCaption = "Team List";
+  kind.entriesName = "GridEX4";
+  kind.entriesLabel = "Label4";
+  kind.entriesCaption = "Teams Entered";
+  kind.listColumns = {
+      {.caption = "TeamID",
+       .field = "TeamID",
+       .width = 900,
+       .selectable = false,
+       .sort = SortKind::Numeric},
+      {.caption = "Team", .field = "Team", .width = 3000, .fill = true},
+  };
+  kind.entryColumns = {
+      {.caption = "SanctionID", .field = "SanctionID", .visible = false},
+      {.caption = "Team", .field = "TeamID", .width = 3000, .selectable = false, .fill = true},
+      Amount("Paid", "Paid", "##0.00", 900),
+      Count("Seed", "Seed", ""),
+      Amount("%", "RingerPercent", "##0.00", 900),
+      ClassColumn(),
+  };
+  kind.listQuery = "SELECT TeamID, Team FROM Teams ORDER BY Team";
+  kind.entryTable = "TournamentTeamEntrants";
+  kind.entryColumnsQuery =
+      "e.SanctionID, e.TeamID, e.Paid, e.Seed, e.RingerPercent, e.ClassID, e.PlayerOneID, "
+      "e.PlayerTwoID";
+  kind.entrantField = "TeamID";
+  kind.namesQuery =
+      "SELECT t.TeamID, t.Team, '' FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? "
+      "AND e.TeamID = t.TeamID";
+  kind.missingText = " (team no longer kept)";
+  kind.searchField = "Team";
+  kind.playFormat = "D";
+  kind.listEmptyText = "No teams yet. Add them under Players / Teams.";
+  kind.entriesEmptyText = "Choose a tournament, then press Enter on a team to enter it.";
+  return kind;
+}
+
+}  // namespace
+
+uctEntrants::uctEntrants(const Surroundings& surroundings, QWidget* parent)
+    : Screen("uctEntrants", " Tournament Entries", surroundings, parent),
+      cboTournaments_(new TournamentBox(this)),
+      cmdSetAverage_(new QPushButton("Update % from Profile", this)),
+      SSTab1_(new QTabWidget(this)),
+      singles_(new EntrySide(SinglesKind(), Guard(), this)),
+      doubles_(new EntrySide(DoublesKind(), Guard(), this)) {
+  cmdSetAverage_->setObjectName("cmdSetAverage");
+  SSTab1_->setObjectName("SSTab1");
+  SSTab1_->addTab(singles_, "Singles");
+  SSTab1_->addTab(doubles_, "Doubles");
+  WireUp();
+  LayOut();
+}
+
+uctEntrants::~uctEntrants() = default;
+
+void uctEntrants::WireUp() {
+  connect(cboTournaments_, &TournamentBox::Chosen, this,
+          [this] { Event("cboTournaments_LostFocus", [this] { cboTournaments_LostFocus(); }); });
+  connect(cmdSetAverage_, &QPushButton::clicked, this,
+          [this] { Event("cmdSetAverage_Click", [this] { cmdSetAverage_Click(); }); });
+  connect(SSTab1_, &QTabWidget::currentChanged, this,
+          [this] { Event("SSTab1_Click", [this] { SSTab1_Click(); }); });
+  singles_->Selected = [this] { PlayerSelected(); };
+  doubles_->Selected = [this] { TeamSelected(); };
+  singles_->entries().on.BeforeUpdate = [this](GridUpdate& event) { GridEX2_BeforeUpdate(event); };
+  doubles_->entries().on.BeforeUpdate = [this](GridUpdate& event) { GridEX4_BeforeUpdate(event); };
+  for (EntrySide* side : {singles_, doubles_}) {
+    side->entries().on.BeforeDelete = [this](GridDelete& event) {
+      event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected entry?");
+    };
+  }
+}
+
+void uctEntrants::LayOut() {
+  auto* top = new QHBoxLayout;
+  top->setSpacing(8);
+  top->addWidget(NewHeading("lblTournament", "Tournament", cboTournaments_, this));
+  top->addWidget(cboTournaments_, 1);
+  top->addWidget(cmdSetAverage_);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(16, 8, 16, 0);
+  column->setSpacing(8);
+  column->addWidget(NewTitle("lblTitle", " Tournament Entries", this));
+  column->addLayout(top);
+  column->addWidget(SSTab1_, 1);
+  column->addWidget(stsInfo());
+}
+
+EntrySide& uctEntrants::OpenSide() {
+  return SSTab1_->currentWidget() == doubles_ ? *doubles_ : *singles_;
+}
+
+void uctEntrants::UserControl_Show() {
+  connection_ = std::make_unique<Connection>();
+  connection_->Open(ConnectString);
+  singles_->ShowList(*connection_);
+  doubles_->ShowList(*connection_);
+  cboTournaments_->Offer(TournamentChoices(*connection_),
+                         around().store.GetRegistryString({}, "RecentTournament"));
+  cboTournaments_LostFocus();
+  if (sanctionID_.isEmpty()) cboTournaments_->setFocus();
+}
+
+void uctEntrants::UserControl_Hide() {
+  singles_->Release();
+  doubles_->Release();
+  connection_.reset();
+  around().store.SaveRegistryString({}, "RecentTournament",
+                                    cboTournaments_->currentText().trimmed());
+}
+
+void uctEntrants::cboTournaments_LostFocus() {
+  sanctionID_ = cboTournaments_->SanctionID();
+  tournamentDate_ = around().clock.Now();
+  for (const TournamentChoice& choice : TournamentChoices(*connection_))
+    if (choice.sanctionID == sanctionID_) tournamentDate_ = choice.date;
+  const bool chosen = !sanctionID_.isEmpty();
+  for (EntrySide* side : {singles_, doubles_}) {
+    side->SetEntriesEnabled(chosen);
+    if (!chosen) continue;
+    side->ShowEntries(*connection_, sanctionID_);
+    side->OfferClasses(*connection_, sanctionID_);
+  }
+  if (chosen) OpenSide().list().setFocus();
+}
+
+void uctEntrants::SSTab1_Click() {
+  OpenSide().list().setFocus();
+}
+
+void uctEntrants::PlayerSelected() {
+  const GridEX& list = singles_->list();
+  const QString playerID = list.Value("PlayerID").Trimmed();
+  const QString category = list.Value("Category").Trimmed();
+  const RowCheck check = CheckSecondEntry(singles_->EntryKeys(), playerID);
+  if (!check.message.isEmpty()) Refuse(check.message);
+  if (check.verdict == RowCheck::Verdict::Cancel) return;
+  if (check.verdict == RowCheck::Verdict::Ask && !Ask(check)) return;
+  EnterPlayer(*connection_, sanctionID_, playerID, category, around().clock.Today());
+  singles_->ShowEntries(*connection_, sanctionID_);
+  singles_->GoToPayment(playerID);
+}
+
+void uctEntrants::TeamSelected() {
+  const QString team = doubles_->list().Value("TeamID").Trimmed();
+  const RowCheck check = EnterTeam(*connection_, sanctionID_, team.toInt(), around().clock.Today());
+  if (check.verdict != RowCheck::Verdict::Save) return Refuse(check.message);
+  doubles_->ShowEntries(*connection_, sanctionID_);
+  doubles_->GoToPayment(team);
+}
+
+void uctEntrants::cmdSetAverage_Click() {
+  if (sanctionID_.isEmpty()) return Refuse("Choose a tournament first");
+  const RowCheck check = CheckAverageUpdate(tournamentDate_, around().clock.Today());
+  if (check.verdict == RowCheck::Verdict::Ask) {
+    around().person.Beep();
+    if (!Ask(check)) return;
+  }
+  if (!singles_->entries().CommitRow() || !doubles_->entries().CommitRow()) return;
+  UpdatePlayerAverages(*connection_, sanctionID_);
+  singles_->ShowEntries(*connection_, sanctionID_, ColumnsAfterUpdate);
+  const RowCheck teams = UpdateTeamAverages(*connection_, sanctionID_);
+  if (teams.verdict != RowCheck::Verdict::Save) Refuse(teams.message);
+  doubles_->ShowEntries(*connection_, sanctionID_);
+}
+
+void uctEntrants::GridEX2_BeforeUpdate(GridUpdate& event) {
+  GridEX& grid = singles_->entries();
+  Settle(CheckEntry(CurrentRow(grid)), grid, event);
+}
+
+void uctEntrants::GridEX4_BeforeUpdate(GridUpdate& event) {
+  GridEX& grid = doubles_->entries();
+  Settle(CheckTeamEntry(CurrentRow(grid)), grid, event);
+}
+
+}  // namespace tavrelin

@@ -1,0 +1,300 @@
+#include "tournament/uctTournaments.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "basic/SanctionNumber.h"
+#include "controls/GridEX.h"
+#include "controls/GridRow.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "players/clsUtility.h"
+#include "shell/Labels.h"
+#include "shell/MessageBar.h"
+#include "shell/Operator.h"
+#include "shell/Store.h"
+#include "tournament/TournamentChecks.h"
+
+namespace tavrelin {
+
+/// Each grid has its connection, its rows, and a clone of them for the search for duplicates, which
+/// must not move the grid's row.
+struct uctTournaments::Data {
+  Connection tournamentFile, classFile;
+  Recordset tournaments, tournamentKeys, classes, classKeys;
+};
+
+namespace {
+
+// What the next class of a tournament takes over from the one before it.
+const QStringList& InheritedColumns() {
+  static const QStringList columns = {"DateTime", "RankMethod",    "PlayFormat",
+                                      "Shoes",    "PlacesPaidOut", "HandicapPct"};
+  return columns;
+}
+
+QList<GridColumn> TournamentColumns() {
+  return {
+      {.caption = "Sanction",
+       .field = "SanctionID",
+       .width = 1300,
+       .maxLength = 9,
+       .picture = "@@-@@-@@@",
+       .upperCase = true},
+      {.caption = "Name", .field = "Name", .width = 3600, .maxLength = 40, .fill = true},
+      {.caption = "Date",
+       .field = "Date",
+       .width = 1300,
+       .editor = CellEditor::Date,
+       .picture = "mm/dd/yyyy",
+       .sort = SortKind::Date},
+      {.caption = "City", .field = "City", .width = 2200, .maxLength = 30},
+      {.caption = "St", .field = "State", .width = 700, .editor = CellEditor::List},
+      {.caption = "Director", .field = "Director", .width = 2600, .maxLength = 40},
+  };
+}
+
+QList<GridColumn> ClassColumns() {
+  return {
+      {.caption = "", .field = "SanctionID", .visible = false},
+      {.caption = "Class",
+       .field = "ClassID",
+       .width = 800,
+       .selectable = false,
+       .maxLength = 3,
+       .upperCase = true},
+      {.caption = "Name", .field = "Name", .width = 2600, .maxLength = 30, .fill = true},
+      {.caption = "Hcp",
+       .field = "HandicapPct",
+       .width = 700,
+       .editor = CellEditor::Number,
+       .alignment = Qt::AlignRight,
+       .sort = SortKind::Numeric,
+       .spokenCaption = "Handicap percent"},
+      {.caption = "Date/Time",
+       .field = "DateTime",
+       .width = 2200,
+       .editor = CellEditor::DateTime,
+       .picture = "mm/dd/yyyy h:mm AMPM",
+       .sort = SortKind::Date},
+      {.caption = "ShPG",
+       .field = "Shoes",
+       .width = 800,
+       .editor = CellEditor::Number,
+       .alignment = Qt::AlignRight,
+       .sort = SortKind::Numeric,
+       .spokenCaption = "Shoes per game"},
+      {.caption = "TieBreaker",
+       .field = "RankMethod",
+       .width = 1500,
+       .editor = CellEditor::List,
+       .values = {{"P", "Points"}, {"R", "Rgr Percent"}, {"H", "HeadToHead"}, {"O", "Over Avg"}}},
+      {.caption = "Format",
+       .field = "PlayFormat",
+       .width = 1200,
+       .editor = CellEditor::List,
+       .values = {{"S", "Singles"}, {"D", "Doubles"}}},
+      {.caption = "Chmp",
+       .field = "ChampionshipClass",
+       .width = 800,
+       .editor = CellEditor::CheckBox,
+       .spokenCaption = "Championship class"},
+      {.caption = "NoPA",
+       .field = "PlacesPaidOut",
+       .width = 800,
+       .editor = CellEditor::Number,
+       .alignment = Qt::AlignRight,
+       .sort = SortKind::Numeric,
+       .spokenCaption = "Number of players awarded"},
+      {.caption = "Report", .field = "Report", .width = 900, .editor = CellEditor::CheckBox},
+      {.caption = "Rank",
+       .field = "RankOverride",
+       .visible = false,
+       .selectable = false,
+       .editor = CellEditor::CheckBox},
+  };
+}
+
+}  // namespace
+
+uctTournaments::uctTournaments(const Surroundings& surroundings, QWidget* parent)
+    : Screen("uctTournaments", "Tournaments", surroundings, parent),
+      GridEX1_(new GridEX("GridEX1", "Tournaments", Guard(), this)),
+      GridEX2_(new GridEX("GridEX2", "Classes", Guard(), this)) {
+  BuildTournaments();
+  BuildClasses();
+  UserControl_Initialize();
+  LayOut();
+}
+
+uctTournaments::~uctTournaments() = default;
+
+void uctTournaments::UserControl_Initialize() {
+  clsUtility::LoadStateValueList(*GridEX1_, "State");
+}
+
+void uctTournaments::BuildTournaments() {
+  GridEX1_->SetColumns(TournamentColumns());
+  GridEX1_->SetAllowAddNew(true);
+  GridEX1_->SetAllowDelete(true);
+  GridEX1_->SetEmptyText(
+      "No tournaments yet. Type the sanction number of the first one in the top row.");
+  GridEX1_->on.KeyDown = [this](GridKeyDown& event) { GridEX1_KeyDown(event); };
+  GridEX1_->on.AfterColEdit = [this](GridColEdit& event) {
+    if (event.column != "SanctionID") return;
+    GridEX1_->SetValue("SanctionID", CleanSanction(GridEX1_->Value("SanctionID").ToText()));
+  };
+  GridEX1_->on.DblClick = [this] {
+    if (!GridEX1_->IsNewRow()) TournamentSelected();
+  };
+  GridEX1_->on.RowColChange = [this](int lastRow, int) { GridEX1_RowColChange(lastRow); };
+  GridEX1_->on.BeforeUpdate = [this](GridUpdate& event) { GridEX1_BeforeUpdate(event); };
+  GridEX1_->on.BeforeDelete = [this](GridDelete& event) {
+    event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected tournament?");
+  };
+}
+
+void uctTournaments::BuildClasses() {
+  GridEX2_->SetColumns(ClassColumns());
+  GridEX2_->SetAllowAddNew(true);
+  GridEX2_->SetAllowDelete(true);
+  GridEX2_->SetEmptyText("Press Enter on a tournament above to see its classes.");
+  GridEX2_->setEnabled(false);
+  GridEX2_->on.KeyDown = [this](GridKeyDown& event) { GridEX2_KeyDown(event); };
+  GridEX2_->on.RowColChange = [this](int lastRow, int) { GridEX2_RowColChange(lastRow); };
+  GridEX2_->on.BeforeUpdate = [this](GridUpdate& event) { GridEX2_BeforeUpdate(event); };
+  GridEX2_->on.LostFocus = [this] { GridEX2_LostFocus(); };
+  GridEX2_->on.BeforeDelete = [this](GridDelete& event) {
+    event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected class?");
+  };
+}
+
+void uctTournaments::LayOut() {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(16, 8, 16, 0);
+  column->setSpacing(8);
+  column->addWidget(NewTitle("lblTitle", "Tournaments", this));
+  column->addWidget(NewHeading("Label1", " Tournaments", GridEX1_, this));
+  column->addWidget(GridEX1_, 1);
+  column->addWidget(NewHeading("Label2", "Optional Class Definitions", GridEX2_, this));
+  column->addWidget(GridEX2_, 1);
+  column->addWidget(stsInfo());
+}
+
+void uctTournaments::UserControl_Show() {
+  data_ = std::make_unique<Data>();
+  data_->tournamentFile.Open(ConnectString);
+  data_->tournaments.Open("SELECT * FROM Tournaments ORDER BY Date DESC", data_->tournamentFile,
+                          Recordset::Lock::Optimistic);
+  data_->tournamentKeys = data_->tournaments.Clone();
+  GridEX1_->SetRecordset(&data_->tournaments);
+  GridEX1_->AddSortKey("Date", SortOrder::Descending);
+  GridEX1_->MoveToNewRow();
+  GridEX1_->SetCol(1);
+  GridEX1_->setFocus();
+}
+
+void uctTournaments::UserControl_Hide() {
+  GridEX1_->CommitRow();
+  GridEX2_->CommitRow();
+  GridEX1_->SetRecordset(nullptr);
+  GridEX2_->SetRecordset(nullptr);
+  GridEX2_->setEnabled(false);
+  data_.reset();
+}
+
+void uctTournaments::GridEX1_KeyDown(GridKeyDown& event) {
+  const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
+  if (enter && GridEX1_->Col() != 0 && GridEX1_->Row() > 0) {
+    event.swallow = true;
+    TournamentSelected();
+  } else if (event.key == Qt::Key_Left && GridEX1_->Col() == 1) {
+    event.swallow = GridEX1_->ClearCol();
+  }
+}
+
+void uctTournaments::GridEX1_RowColChange(int lastRow) {
+  if (lastRow == -1 && GridEX1_->Row() != lastRow) GridEX1_->ClearCol();
+}
+
+void uctTournaments::GridEX1_BeforeUpdate(GridUpdate& event) {
+  const RowCheck check =
+      CheckTournament(CurrentRow(*GridEX1_), event.newRow, data_->tournamentKeys);
+  Settle(check, *GridEX1_, event);
+  if (check.verdict != RowCheck::Verdict::Save) return;
+  // The other screens offer first the tournament that was worked on last.
+  around().store.SaveRegistryString(
+      {}, "RecentTournament",
+      SanctionComboText(GridEX1_->Value("SanctionID").Trimmed(), GridEX1_->Value("Name").ToText()));
+}
+
+void uctTournaments::GridEX2_KeyDown(GridKeyDown& event) {
+  if (event.key == Qt::Key_Escape) {
+    event.swallow = true;
+    GridEX1_->setFocus();
+    GridEX2_->setEnabled(false);
+  } else if (event.key == Qt::Key_Left && GridEX2_->Col() == 2) {
+    event.swallow = GridEX2_->ClearCol();
+  }
+}
+
+// A stored class keeps its letter: games and entries go by it.
+void uctTournaments::GridEX2_RowColChange(int lastRow) {
+  if (GridEX2_->Row() == lastRow) return;
+  if (GridEX2_->IsNewRow()) {
+    GridEX2_->SetSelectable("ClassID", true);
+    GridEX2_->SetCol("ClassID");
+  } else if (lastRow == -1) {
+    GridEX2_->SetSelectable("ClassID", false);
+    GridEX2_->ClearCol();
+  }
+}
+
+void uctTournaments::GridEX2_BeforeUpdate(GridUpdate& event) {
+  GridEX2_->SetValue("SanctionID", sanctionID_);
+  const RowCheck check =
+      CheckTournamentClass(CurrentRow(*GridEX2_), event.newRow, data_->classKeys);
+  Settle(check, *GridEX2_, event);
+  if (check.verdict == RowCheck::Verdict::Save && event.newRow) NextClassStartsFromThisOne();
+}
+
+void uctTournaments::GridEX2_LostFocus() {
+  GridEX2_->setEnabled(false);
+  GridEX2_->SetRecordset(nullptr);
+}
+
+void uctTournaments::TournamentSelected() {
+  if (!GridEX1_->CommitRow()) return;
+  sanctionID_ = GridEX1_->Value("SanctionID").Trimmed();
+  const QDateTime start = DefaultClassStart(GridEX1_->Value("Date").ToDate());
+  BindClasses();
+  GridEX2_->setEnabled(true);
+  SetClassDefaults(start);
+  GridEX2_->MoveToNewRow();
+  GridEX2_->setFocus();
+}
+
+void uctTournaments::BindClasses() {
+  GridEX2_->SetRecordset(nullptr);
+  data_->classFile.Close();
+  data_->classFile.Open(ConnectString);
+  data_->classes.Open("SELECT * FROM TournamentClasses WHERE SanctionID = ?", data_->classFile,
+                      Recordset::Lock::Optimistic, {sanctionID_});
+  data_->classKeys = data_->classes.Clone();
+  GridEX2_->SetRecordset(&data_->classes);
+  GridEX2_->AddSortKey("ClassID", SortOrder::Ascending);
+}
+
+void uctTournaments::SetClassDefaults(const QDateTime& start) {
+  for (const char* number : {"Shoes", "PlacesPaidOut", "HandicapPct"})
+    GridEX2_->SetDefault(number, 0);
+  for (const char* code : {"RankMethod", "PlayFormat"}) GridEX2_->SetDefault(code, {});
+  GridEX2_->SetDefault("DateTime", start);
+}
+
+void uctTournaments::NextClassStartsFromThisOne() {
+  for (const QString& column : InheritedColumns())
+    GridEX2_->SetDefault(column, GridEX2_->Value(column));
+}
+
+}  // namespace tavrelin
