@@ -3,6 +3,7 @@
 #include "play/uctPlayTime.h"
 #include "play/uctPlayTimeTeams.h"
 #include "players/uctProfile.h"
+#include "players/uctTeam.h"
 #include "shell/EmptyScreen.h"
 #include "tournament/uctEntrants.h"
 #include "tournament/uctTournaments.h"
@@ -48,7 +49,7 @@ const QList<MakeScreen>& AllScreens() {
       Without("uctLeagueScores", "League Scores"),
       Without("uctLeagueReports", "League Reports"),
       Without("uctTransmittal", "Membership Transmittal"),
-      Without("uctTeam", "Teams"),
+      Make<uctTeam>(),
       Without("uctDatabase", "Setup Database"),
       Without("uctSettings", "Settings"),
   };
