@@ -3,6 +3,7 @@
 #include "play/uctPlayTime.h"
 #include "play/uctPlayTimeTeams.h"
 #include "players/uctProfile.h"
+#include "players/uctScores.h"
 #include "players/uctTeam.h"
 #include "shell/EmptyScreen.h"
 #include "tournament/uctEntrants.h"
@@ -31,7 +32,7 @@ MakeScreen Without(const char* name, const char* title) {
 const QList<MakeScreen>& AllScreens() {
   static const QList<MakeScreen> screens = {
       Make<uctProfile>(),
-      Without("uctScores", "Player Stats"),
+      Make<uctScores>(),
       Make<uctTournaments>(),
       Without("uctETally", "eTally"),
       Without("uctImport", "Import"),

@@ -1,0 +1,230 @@
+#include "players/uctScores.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "basic/Picture.h"
+#include "basic/RowCheck.h"
+#include "basic/SanctionNumber.h"
+#include "controls/GridEX.h"
+#include "controls/GridRow.h"
+#include "controls/TypedSearch.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "players/CheckPlayerScore.h"
+#include "players/clsUtility.h"
+#include "players/Vocabulary.h"
+#include "shell/Labels.h"
+#include "shell/MessageBar.h"
+#include "shell/Operator.h"
+
+namespace tavrelin {
+
+/// The clone serves the search for duplicates, which must not move the grid's row.
+struct uctScores::Data {
+  Connection connection;
+  Recordset players, scores, keys;
+};
+
+namespace {
+
+constexpr int SearchPause = 1500;  // milliseconds
+
+QList<GridColumn> PlayerColumns() {
+  return {{.field = "PlayerID", .visible = false},
+          {.field = "Category", .visible = false},
+          {.caption = "First",
+           .field = "FirstName",
+           .width = 1200,
+           .position = 4,
+           .fill = true,
+           .spokenCaption = "First name"},
+          {.caption = "Last",
+           .field = "LastName",
+           .width = 1500,
+           .position = 3,
+           .spokenCaption = "Last name"}};
+}
+
+GridColumn Figure(const char* caption, const char* field, const char* spoken, int width) {
+  return {.caption = caption,
+          .field = field,
+          .width = width,
+          .editor = CellEditor::Number,
+          .alignment = Qt::AlignRight,
+          .sort = SortKind::Numeric,
+          .spokenCaption = spoken};
+}
+
+GridColumn FigureFromZero(const char* caption, const char* field, const char* spoken, int width,
+                          const char* picture) {
+  GridColumn column = Figure(caption, field, spoken, width);
+  column.picture = picture;
+  column.defaultValue = 0;
+  return column;
+}
+
+QList<GridColumn> ScoreColumns() {
+  GridColumn percent = FigureFromZero("%", "Pct", "Ringer percent", 680, "#0.00");
+  percent.editable = false;
+  percent.selectable = false;
+  percent.defaultValue = {};
+  return {{.caption = "Name",
+           .field = "PlayerID",
+           .width = 1350,
+           .selectable = false,
+           .editable = false,
+           .fill = true},
+          {.caption = "Cat",
+           .field = "Category",
+           .width = 950,
+           .editor = CellEditor::List,
+           .values = AsValueList(Divisions()),
+           .spokenCaption = "Division"},
+          {.caption = "Sanction",
+           .field = "SanctionID",
+           .width = 1200,
+           .maxLength = 9,
+           .editor = CellEditor::Combo,
+           .picture = "@@-@@-@@@",
+           .upperCase = true,
+           .spokenCaption = "Sanction number"},
+          Figure("Shs", "Shoes", "Shoes", 600),
+          Figure("Rgrs", "Ringers", "Ringers", 600),
+          percent,
+          FigureFromZero("W", "Wins", "Wins", 530, "0.0"),
+          FigureFromZero("L", "Losses", "Losses", 530, "0.0"),
+          FigureFromZero("Pl", "Place", "Place", 480, "0"),
+          FigureFromZero("HiGm", "HiGame", "High game", 680, "#0.00")};
+}
+
+}  // namespace
+
+uctScores::uctScores(const Surroundings& surroundings, QWidget* parent)
+    : Screen("uctScores", "Player Stats", surroundings, parent),
+      GridEX1_(new GridEX("GridEX1", "Players", Guard(), this)),
+      GridEX2_(new GridEX("GridEX2", "Tournament scores", Guard(), this)),
+      search_(new TypedSearch(*GridEX1_, SearchPause, [](const QString& typed) {
+        return TypedSearch::ByStart("LastName", typed);
+      })) {
+  UserControl_Initialize();
+  ConnectEvents();
+  LayOut();
+}
+
+uctScores::~uctScores() = default;
+
+void uctScores::UserControl_Initialize() {
+  GridEX1_->SetColumns(PlayerColumns());
+  GridEX1_->SetAllowEdit(false);
+  GridEX1_->SetRowMode(true);
+  GridEX1_->SetEmptyText("No players yet. They are entered on the Profile page.");
+  GridEX2_->SetColumns(ScoreColumns());
+  GridEX2_->SetAllowAddNew(true);
+  GridEX2_->SetAllowDelete(true);
+  GridEX2_->SetEmptyText("Double-click a player to see the tournaments pitched.");
+}
+
+void uctScores::ConnectEvents() {
+  GridEX1_->on.KeyDown = [this](GridKeyDown& event) { GridEX1_KeyDown(event); };
+  GridEX1_->on.DblClick = [this] { PlayerSelected(); };
+  GridEX2_->on.KeyDown = [this](GridKeyDown&) { stsInfo()->ClearMessage(); };
+  GridEX2_->on.AfterColEdit = [this](GridColEdit& event) { GridEX2_AfterColEdit(event); };
+  GridEX2_->on.BeforeUpdate = [this](GridUpdate& update) { GridEX2_BeforeUpdate(update); };
+  GridEX2_->on.BeforeDelete = [this](GridDelete& event) {
+    event.cancel =
+        !around().person.Confirm("Confirm Deletion", "Delete selected tournament score?");
+  };
+}
+
+void uctScores::LayOut() {
+  auto* grids = new QHBoxLayout;
+  grids->setSpacing(16);
+  grids->addWidget(GridEX1_, 3);
+  grids->addWidget(GridEX2_, 9);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(16, 8, 16, 0);
+  column->setSpacing(8);
+  column->addWidget(NewTitle("lblTitle", Title(), this));
+  column->addLayout(grids, 1);
+  column->addWidget(stsInfo());
+}
+
+void uctScores::UserControl_Show() {
+  data_ = std::make_unique<Data>();
+  data_->connection.Open(ConnectString);
+  LoadPlayers();
+  LoadSanctions();
+  GridEX1_->setFocus();
+}
+
+void uctScores::LoadPlayers() {
+  Recordset& players = data_->players;
+  players.Open("SELECT PlayerID, LastName, FirstName, Category FROM Players ORDER BY LastName",
+               data_->connection);
+  ValueList names;
+  for (int at = 1; at <= players.RecordCount(); ++at) {
+    names.Add(players.CellAt(at, 0),
+              players.CellAt(at, 1).ToText() + u' ' + players.CellAt(at, 2).ToText());
+  }
+  GridEX2_->SetValueList("PlayerID", names);
+  GridEX1_->SetRecordset(&players);
+}
+
+void uctScores::LoadSanctions() {
+  Recordset tournaments;
+  tournaments.Open("SELECT SanctionID FROM Tournaments ORDER BY Date DESC", data_->connection);
+  ValueList sanctions;
+  for (; !tournaments.AtEnd(); tournaments.MoveNext()) {
+    sanctions.Add(tournaments.At(0), FormatSanction(tournaments.At(0).ToText()));
+  }
+  GridEX2_->SetValueList("SanctionID", sanctions);
+}
+
+void uctScores::UserControl_Hide() {
+  GridEX2_->CommitRow();
+  search_->Clear();
+  for (GridEX* grid : {GridEX1_, GridEX2_}) grid->SetRecordset(nullptr);
+  data_.reset();
+}
+
+// A new row starts as the player's own, in the present division, so that it needs only the
+// tournament and the figures.
+void uctScores::PlayerSelected() {
+  if (GridEX1_->Row() < 1 || !GridEX2_->CommitRow()) return;
+  const Value playerID = GridEX1_->Value("PlayerID");
+  GridEX2_->SetRecordset(nullptr);
+  data_->scores.Open(
+      "SELECT PlayerID, Category, SanctionID, Shoes, Ringers, (Ringers / Shoes * 100) AS Pct, "
+      "Wins, Losses, Place, HiGame FROM PlayerScores WHERE PlayerID = ?",
+      data_->connection, Recordset::Lock::Optimistic, {playerID});
+  data_->keys = data_->scores.Clone();
+  GridEX2_->SetDefault("PlayerID", playerID);
+  GridEX2_->SetDefault("Category", GridEX1_->Value("Category"));
+  GridEX2_->SetRecordset(&data_->scores);
+}
+
+void uctScores::GridEX1_KeyDown(GridKeyDown& event) {
+  stsInfo()->ClearMessage();
+  if (event.key == Qt::Key_Return || event.key == Qt::Key_Enter) {
+    event.swallow = true;
+    PlayerSelected();
+  } else {
+    search_->KeyDown(event);
+  }
+}
+
+void uctScores::GridEX2_AfterColEdit(GridColEdit& event) {
+  if (event.column == "SanctionID") {
+    GridEX2_->SetValue("SanctionID", CleanSanction(GridEX2_->Value("SanctionID").ToText()));
+  } else if (event.column == "Shoes" || event.column == "Ringers") {
+    GridEX2_->SetValue("Pct", RingerPercent(GridEX2_->Value("Ringers"), GridEX2_->Value("Shoes")));
+  }
+}
+
+void uctScores::GridEX2_BeforeUpdate(GridUpdate& update) {
+  Settle(CheckPlayerScore(CurrentRow(*GridEX2_), update.newRow, data_->keys), *GridEX2_, update);
+}
+
+}  // namespace tavrelin
