@@ -58,7 +58,10 @@ frmStartUp::frmStartUp(const Surroundings& surroundings, StartUp& startUp,
   connect(switchFocus, &QShortcut::activated, this, &frmStartUp::SwitchFocus);
 }
 
-frmStartUp::~frmStartUp() = default;
+// Hidden first, so that the present screen ends its edits while all of it still stands.
+frmStartUp::~frmStartUp() {
+  hide();
+}
 
 void frmStartUp::MakeMenu() {
   auto* bar = new MenuBar(this);
