@@ -22,6 +22,7 @@ CourtBox::CourtBox(QWidget* parent)
   txtCourts_->setMaximumWidth(txtCourts_->fontMetrics().averageCharWidth() * 9);
   txtCourts_->installEventFilter(this);
   lblCourtOf_->setObjectName("lblCourtOf");
+  lblCourtOf_->setMinimumWidth(lblCourtOf_->fontMetrics().horizontalAdvance("00 of 00"));
   down_ = AddButton("UpDown1_Down", Qt::DownArrow, "Next court");
   up_ = AddButton("UpDown1_Up", Qt::UpArrow, "Previous court");
   auto* row = new QHBoxLayout(this);
@@ -62,6 +63,10 @@ void CourtBox::Clear() {
 void CourtBox::TakeFocus() {
   txtCourts_->setFocus();
   txtCourts_->selectAll();
+}
+
+QWidget* CourtBox::Box() const {
+  return txtCourts_;
 }
 
 bool CourtBox::eventFilter(QObject* watched, QEvent* event) {

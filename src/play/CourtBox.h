@@ -25,6 +25,8 @@ class CourtBox : public QWidget {
   /// Left-justified in three characters.
   const QStringList& Courts() const { return courts_; }
   void TakeFocus();
+  /// The field itself, for its label.
+  QWidget* Box() const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -44,7 +44,7 @@ void AddForfeit(QList<GridColumn>& columns, const SideColumns& side) {
   if (side.forfeit.isEmpty()) return;
   columns.append({.caption = "Frft",
                   .field = side.forfeit,
-                  .width = 600,
+                  .width = 500,
                   .visible = false,
                   .editor = CellEditor::CheckBox,
                   .spokenCaption = Spoken(side.forfeit)});
@@ -52,7 +52,7 @@ void AddForfeit(QList<GridColumn>& columns, const SideColumns& side) {
 
 void AddSinglePoints(QList<GridColumn>& columns, const SideColumns& side, const QString& key) {
   if (side.singlePoints.isEmpty()) return;
-  GridColumn column = Figure("SglP", side.singlePoints, 700, Spoken(side.singlePoints));
+  GridColumn column = Figure("SglP", side.singlePoints, 600, Spoken(side.singlePoints));
   column.key = key;
   column.visible = column.selectable = false;
   column.defaultValue = 0;
@@ -66,12 +66,12 @@ void AddThrowers(QList<GridColumn>& columns, const SideColumns& side) {
     if (team) {
       columns.append({.caption = i == 0 ? "A" : "B",
                       .field = side.throwers[i],
-                      .width = 1500,
+                      .width = 1100,
                       .selectable = false,
                       .editable = false,
                       .spokenCaption = Spoken(side.throwers[i])});
     }
-    columns.append(Figure("Rgrs", side.ringers[i], 750, Spoken(side.ringers[i])));
+    columns.append(Figure("Rgrs", side.ringers[i], 600, Spoken(side.ringers[i])));
   }
 }
 
@@ -79,7 +79,7 @@ void AddSide(QList<GridColumn>& columns, const SideColumns& side, const QString&
   const QString result = Stem(side) + "WL";
   columns.append({.caption = "wl",
                   .field = result,
-                  .width = 450,
+                  .width = 400,
                   .selectable = false,
                   .editable = false,
                   .icon = true,
@@ -87,11 +87,11 @@ void AddSide(QList<GridColumn>& columns, const SideColumns& side, const QString&
   AddForfeit(columns, side);
   columns.append({.caption = "Name",
                   .field = side.id,
-                  .width = 2000,
+                  .width = 1500,
                   .editor = CellEditor::List,
                   .fill = true,
                   .spokenCaption = Spoken(Stem(side))});
-  columns.append(Figure("Pts", side.points, 700, Spoken(side.points)));
+  columns.append(Figure("Pts", side.points, 550, Spoken(side.points)));
   AddThrowers(columns, side);
   AddSinglePoints(columns, side, singlePointsKey);
 }
@@ -149,19 +149,19 @@ GridColumn OverrideColumn() {
 
 QList<GridColumn> ScoreColumns(const PlayFormat& format) {
   QList<GridColumn> columns = {Hidden("SanctionID"), Hidden("ClassID")};
-  columns.append(Figure("Gm", "Game", 600, "Game"));
+  columns.append(Figure("Gm", "Game", 450, "Game"));
   columns.append({.caption = "Crt",
                   .field = "Court",
-                  .width = 600,
+                  .width = 450,
                   .maxLength = 3,
                   .alignment = Qt::AlignRight,
                   .spokenCaption = "Court"});
-  columns.append(Figure("Shs", "Shoes", 650, "Shoes"));
+  columns.append(Figure("Shs", "Shoes", 500, "Shoes"));
   AddSide(columns, format.sides[0], "POneSinglePts");
   AddSide(columns, format.sides[1], "PTwoSinglePts");
   columns.append({.caption = "X",
                   .field = "Approved",
-                  .width = 600,
+                  .width = 400,
                   .editor = CellEditor::CheckBox,
                   .spokenCaption = "Approved"});
   return columns;

@@ -93,9 +93,10 @@ QWidget* PlayScreen::PairingBand() {
   };
   addRow({NewHeading("lblTournament", "Tournament", cboTournaments_, band), cboTournaments_,
           NewHeading("lblClass", "Class", cboClasses_, band), cboClasses_, cmdLoad_});
-  addRow({NewHeading("lblCourts", "Courts", courts_, band), courts_,
+  addRow({NewHeading("lblCourts", "Courts", courts_->Box(), band), courts_,
           NewHeading("lblRounds", "Rounds", cboRounds_, band), cboRounds_, optBye_, optPacer_,
           cmdCreatePair_, cmdDeletePair_});
+  courts_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   return band;
 }
 

@@ -62,7 +62,7 @@ void EntrySide::LayOut() {
     column->addWidget(grid, 1);
     halves->addLayout(column, stretch);
   };
-  addHalf(kind_.listLabel, kind_.listCaption, list_, 4);
+  addHalf(kind_.listLabel, kind_.listCaption, list_, 3);
   addHalf(kind_.entriesLabel, kind_.entriesCaption, entries_, 7);
 }
 
@@ -125,6 +125,7 @@ void EntrySide::SetEntriesEnabled(bool enabled) {
 }
 
 void EntrySide::Release() {
+  search_->Clear();
   entries_->CommitRow();
   for (GridEX* grid : {list_, entries_}) grid->SetRecordset(nullptr);
   for (Recordset* rows : {&listRows_, &entryKeys_, &entryRows_}) rows->Close();
@@ -152,7 +153,8 @@ bool EntrySide::IsFirstCell() const {
 }
 
 void EntrySide::Entries_KeyDown(GridKeyDown& event) {
-  const bool back = event.key == Qt::Key_Backtab && IsFirstCell();
+  const bool back =
+      event.key == Qt::Key_Tab && (event.modifiers & Qt::ShiftModifier) && IsFirstCell();
   if (event.key == Qt::Key_Escape || back) {
     event.swallow = true;
     list_->setFocus();

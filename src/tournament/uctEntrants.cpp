@@ -39,14 +39,14 @@ GridColumn Count(const char* caption, const char* field, const char* key) {
   return {.caption = caption,
           .field = field,
           .key = key,
-          .width = 800,
+          .width = 650,
           .editor = CellEditor::Number,
           .alignment = Qt::AlignRight,
           .sort = SortKind::Numeric};
 }
 
 GridColumn ClassColumn() {
-  return {.caption = "Class", .field = "ClassID", .width = 1700, .editor = CellEditor::List};
+  return {.caption = "Class", .field = "ClassID", .width = 1100, .editor = CellEditor::List};
 }
 
 EntrySideKind SinglesKind() {
@@ -60,22 +60,18 @@ EntrySideKind SinglesKind() {
   kind.listColumns = {
       {.caption = "PlayerID", .field = "PlayerID", .visible = false},
       {.caption = "Category", .field = "Category", .visible = false},
-      {.caption = "Name", .field = "PlayerName", .width = 2800, .fill = true},
-      {.caption = "Card", .field = "CardNumber", .width = 900, .sort = SortKind::Numeric},
-      {.caption = "St", .field = "State", .width = 600},
-      {.caption = "Year", .field = "CardYear", .width = 750},
+      {.caption = "Name", .field = "PlayerName", .width = 1600, .fill = true},
+      {.caption = "Card", .field = "CardNumber", .width = 750, .sort = SortKind::Numeric},
+      {.caption = "St", .field = "State", .width = 450},
+      {.caption = "Year", .field = "CardYear", .width = 600},
   };
   kind.entryColumns = {
       {.caption = "SanctionID", .field = "SanctionID", .visible = false},
-      {.caption = "Name", .field = "PlayerID", .width = 2400, .selectable = false, .fill = true},
-      {.caption = "Cat",
-       .field = "PlayerID",
-       .key = "Category",
-       .width = 1000,
-       .selectable = false},
-      Amount("Paid", "Paid", "##0.00", 900),
+      {.caption = "Name", .field = "PlayerID", .width = 1700, .selectable = false, .fill = true},
+      {.caption = "Cat", .field = "PlayerID", .key = "Category", .width = 850, .selectable = false},
+      Amount("Paid", "Paid", "##0.00", 750),
       Count("Seed", "Seed", ""),
-      Amount("%", "RingerPercent", "##0.00", 900),
+      Amount("%", "RingerPercent", "##0.00", 750),
       ClassColumn(),
       Count("Shoes", "TotalShoes", "Shoes"),
       Count("Rgrs", "TotalRingers", "Ringers"),
@@ -126,9 +122,9 @@ EntrySideKind DoublesKind() {
   kind.entryColumns = {
       {.caption = "SanctionID", .field = "SanctionID", .visible = false},
       {.caption = "Team", .field = "TeamID", .width = 3000, .selectable = false, .fill = true},
-      Amount("Paid", "Paid", "##0.00", 900),
+      Amount("Paid", "Paid", "##0.00", 750),
       Count("Seed", "Seed", ""),
-      Amount("%", "RingerPercent", "##0.00", 900),
+      Amount("%", "RingerPercent", "##0.00", 750),
       ClassColumn(),
   };
   kind.listQuery = "SELECT TeamID, Team FROM Teams ORDER BY Team";

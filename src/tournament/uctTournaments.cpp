@@ -26,6 +26,10 @@ struct uctTournaments::Data {
 
 namespace {
 
+constexpr const char* ChooseFirst = "Press Enter on a tournament above to see its classes.";
+constexpr const char* NoClasses =
+    "No classes yet. Type the letter of the first one in the top row.";
+
 // What the next class of a tournament takes over from the one before it.
 const QStringList& InheritedColumns() {
   static const QStringList columns = {"DateTime", "RankMethod",    "PlayFormat",
@@ -41,16 +45,16 @@ QList<GridColumn> TournamentColumns() {
        .maxLength = 9,
        .picture = "@@-@@-@@@",
        .upperCase = true},
-      {.caption = "Name", .field = "Name", .width = 3600, .maxLength = 40, .fill = true},
+      {.caption = "Name", .field = "Name", .width = 3000, .maxLength = 40, .fill = true},
       {.caption = "Date",
        .field = "Date",
        .width = 1300,
        .editor = CellEditor::Date,
        .picture = "mm/dd/yyyy",
        .sort = SortKind::Date},
-      {.caption = "City", .field = "City", .width = 2200, .maxLength = 30},
+      {.caption = "City", .field = "City", .width = 1900, .maxLength = 30},
       {.caption = "St", .field = "State", .width = 700, .editor = CellEditor::List},
-      {.caption = "Director", .field = "Director", .width = 2600, .maxLength = 40},
+      {.caption = "Director", .field = "Director", .width = 2300, .maxLength = 40},
   };
 }
 
@@ -59,54 +63,54 @@ QList<GridColumn> ClassColumns() {
       {.caption = "", .field = "SanctionID", .visible = false},
       {.caption = "Class",
        .field = "ClassID",
-       .width = 800,
+       .width = 750,
        .selectable = false,
        .maxLength = 3,
        .upperCase = true},
-      {.caption = "Name", .field = "Name", .width = 2600, .maxLength = 30, .fill = true},
+      {.caption = "Name", .field = "Name", .width = 1700, .maxLength = 30, .fill = true},
       {.caption = "Hcp",
        .field = "HandicapPct",
-       .width = 700,
+       .width = 600,
        .editor = CellEditor::Number,
        .alignment = Qt::AlignRight,
        .sort = SortKind::Numeric,
        .spokenCaption = "Handicap percent"},
       {.caption = "Date/Time",
        .field = "DateTime",
-       .width = 2200,
+       .width = 2050,
        .editor = CellEditor::DateTime,
        .picture = "mm/dd/yyyy h:mm AMPM",
        .sort = SortKind::Date},
       {.caption = "ShPG",
        .field = "Shoes",
-       .width = 800,
+       .width = 700,
        .editor = CellEditor::Number,
        .alignment = Qt::AlignRight,
        .sort = SortKind::Numeric,
        .spokenCaption = "Shoes per game"},
       {.caption = "TieBreaker",
        .field = "RankMethod",
-       .width = 1500,
+       .width = 1350,
        .editor = CellEditor::List,
        .values = {{"P", "Points"}, {"R", "Rgr Percent"}, {"H", "HeadToHead"}, {"O", "Over Avg"}}},
       {.caption = "Format",
        .field = "PlayFormat",
-       .width = 1200,
+       .width = 1050,
        .editor = CellEditor::List,
        .values = {{"S", "Singles"}, {"D", "Doubles"}}},
       {.caption = "Chmp",
        .field = "ChampionshipClass",
-       .width = 800,
+       .width = 700,
        .editor = CellEditor::CheckBox,
        .spokenCaption = "Championship class"},
       {.caption = "NoPA",
        .field = "PlacesPaidOut",
-       .width = 800,
+       .width = 700,
        .editor = CellEditor::Number,
        .alignment = Qt::AlignRight,
        .sort = SortKind::Numeric,
        .spokenCaption = "Number of players awarded"},
-      {.caption = "Report", .field = "Report", .width = 900, .editor = CellEditor::CheckBox},
+      {.caption = "Report", .field = "Report", .width = 850, .editor = CellEditor::CheckBox},
       {.caption = "Rank",
        .field = "RankOverride",
        .visible = false,
@@ -158,7 +162,7 @@ void uctTournaments::BuildClasses() {
   GridEX2_->SetColumns(ClassColumns());
   GridEX2_->SetAllowAddNew(true);
   GridEX2_->SetAllowDelete(true);
-  GridEX2_->SetEmptyText("Press Enter on a tournament above to see its classes.");
+  GridEX2_->SetEmptyText(ChooseFirst);
   GridEX2_->setEnabled(false);
   GridEX2_->on.KeyDown = [this](GridKeyDown& event) { GridEX2_KeyDown(event); };
   GridEX2_->on.RowColChange = [this](int lastRow, int) { GridEX2_RowColChange(lastRow); };
@@ -260,6 +264,7 @@ void uctTournaments::GridEX2_BeforeUpdate(GridUpdate& event) {
 
 void uctTournaments::GridEX2_LostFocus() {
   GridEX2_->setEnabled(false);
+  GridEX2_->SetEmptyText(ChooseFirst);
   GridEX2_->SetRecordset(nullptr);
 }
 
@@ -281,6 +286,7 @@ void uctTournaments::BindClasses() {
   data_->classes.Open("SELECT * FROM TournamentClasses WHERE SanctionID = ?", data_->classFile,
                       Recordset::Lock::Optimistic, {sanctionID_});
   data_->classKeys = data_->classes.Clone();
+  GridEX2_->SetEmptyText(NoClasses);
   GridEX2_->SetRecordset(&data_->classes);
   GridEX2_->AddSortKey("ClassID", SortOrder::Ascending);
 }

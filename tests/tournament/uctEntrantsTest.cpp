@@ -1,0 +1,226 @@
+#include "tournament/uctEntrants.h"
+
+#include <gtest/gtest.h>
+
+#include <QTabWidget>
+
+#include "controls/GridEX.h"
+#include "data/Connection.h"
+#include "data/Recordset.h"
+#include "support/ScreenBench.h"
+
+namespace tavrelin {
+namespace {
+
+struct uctEntrantsTest : testing::Test {
+  ScreenBench bench;
+  Connection file;
+
+  void SetUp() override {
+    file.Open(ConnectString);
+    file.Execute(
+        "INSERT INTO Tournaments (SanctionID, Name, Date) VALUES ('MN25A01', 'Spring Open', "
+        "#6/20/2025#)");
+    file.Execute(
+        "INSERT INTO TournamentClasses (SanctionID, ClassID, Name, PlayFormat) VALUES ('MN25A01', "
+        "'A', 'Men', 'S')");
+    file.Execute(
+        "INSERT INTO TournamentClasses (SanctionID, ClassID, Name, PlayFormat) VALUES ('MN25A01', "
+        "'D', 'Pairs', 'D')");
+    AddPlayer("ADAANN", "Ann", "Adams", 61.5);
+    AddPlayer("BEEBOB", "Bob", "Beech", 40);
+    AddPlayer("OBRAL0", "Al", "O'Brien", 0);
+    file.Execute("INSERT INTO Teams (TeamID, Team) VALUES (1, 'Iron Pair')");
+    file.Execute("INSERT INTO Teams (TeamID, Team) VALUES (2, 'Lonely One')");
+    for (const char* row : {"1, 'BEEBOB'", "1, 'ADAANN'", "2, 'OBRAL0'"})
+      file.Execute(QString("INSERT INTO TeamPlayers (TeamID, PlayerID) VALUES (%1)").arg(row));
+    bench.store().SaveRegistryString({}, "RecentTournament", "MN-25-A01   Spring Open");
+  }
+
+  void AddPlayer(const QString& id, const QString& first, const QString& last, double average) {
+    file.Execute(
+        "INSERT INTO Players (PlayerID, FirstName, LastName, Category, State, Average) VALUES (?, "
+        "?, ?, 'AM', 'MN', ?)",
+        {id, first, last, average});
+  }
+  Value Ask(const QString& sql) {
+    Recordset rows;
+    rows.Open(sql, file);
+    return rows.AtEnd() ? Value() : rows.At(0);
+  }
+  GridEX& Players() { return bench.Find<GridEX>("GridEX1"); }
+  GridEX& Entered() { return bench.Find<GridEX>("GridEX2"); }
+  GridEX& Teams() { return bench.Find<GridEX>("GridEX3"); }
+  GridEX& TeamsEntered() { return bench.Find<GridEX>("GridEX4"); }
+  void OpenDoubles() { bench.Find<QTabWidget>("SSTab1").setCurrentIndex(1); }
+  void Enter(GridEX& list, int row) {
+    list.setFocus();
+    list.SetRow(row);
+    bench.Press(Qt::Key_Return);
+  }
+};
+
+TEST_F(uctEntrantsTest, ReopensOnTheTournamentItWasLeftOn) {
+  bench.Show<uctEntrants>();
+  EXPECT_TRUE(Entered().isEnabled());
+  EXPECT_EQ(bench.FocusName(), "GridEX1_Table");
+  bench.Leave();
+  EXPECT_EQ(bench.store().GetRegistryString({}, "RecentTournament"), "MN-25-A01   Spring Open");
+}
+
+TEST_F(uctEntrantsTest, WithoutATournamentNobodyCanBeEntered) {
+  bench.store().SaveRegistryString({}, "RecentTournament", "");
+  bench.Show<uctEntrants>();
+  EXPECT_FALSE(Entered().isEnabled());
+  Enter(Players(), 1);
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentEntrants").ToWhole(), 0);
+}
+
+TEST_F(uctEntrantsTest, EnterEntersThePlayerAndStandsOnHisPayment) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  ASSERT_EQ(Entered().RowCount(), 1);
+  EXPECT_EQ(Entered().TextAt(1, "PlayerID"), "Adams, Ann");
+  EXPECT_EQ(Entered().TextAt(1, "Category"), "Men");
+  EXPECT_EQ(Entered().TextAt(1, "RingerPercent"), "61.50");
+  EXPECT_EQ(Entered().ColumnKey(Entered().Col()), "Paid");
+  bench.Type("12.5");
+  bench.Press(Qt::Key_Tab);
+  ASSERT_TRUE(Entered().CommitRow()) << bench.Message().toStdString();
+  EXPECT_EQ(Ask("SELECT Paid FROM TournamentEntrants").ToNumber(), 12.5);
+}
+
+TEST_F(uctEntrantsTest, ASecondEntryIsRefusedWithoutAClassAndAskedAboutWithOne) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  Enter(Players(), 1);
+  EXPECT_EQ(bench.Message(),
+            "Player already entered in tournament. Cannot be entered again until first entry is "
+            "placed in a class. ");
+  file.Execute("UPDATE TournamentEntrants SET ClassID = 'A'");
+  bench.LeaveAndReturn();
+  bench.person.WillAnswer(false);
+  Enter(Players(), 1);
+  EXPECT_EQ(bench.person.questions[0].title, "Duplicate Entry");
+  EXPECT_EQ(Entered().RowCount(), 1);
+  bench.person.WillAnswer(true);
+  Enter(Players(), 1);
+  EXPECT_EQ(Entered().RowCount(), 2);
+}
+
+TEST_F(uctEntrantsTest, MoreRingersThanShoesAreRefusedAndAsManyAreTaken) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  Entered().SetValue("Shoes", 100);
+  Entered().SetValue("Ringers", 101);
+  EXPECT_FALSE(Entered().CommitRow());
+  EXPECT_EQ(bench.Message(), "Ringers cannot be greater than Shoes");
+  Entered().SetValue("Ringers", 100);
+  EXPECT_TRUE(Entered().CommitRow());
+}
+
+TEST_F(uctEntrantsTest, OnlyClassesOfTheTabAreOffered) {
+  bench.Show<uctEntrants>();
+  const auto offered = [](const GridEX& grid) {
+    QStringList texts;
+    for (const ValueItem& item : grid.Columns().at(grid.ColumnNumber("ClassID") - 1).values.Items())
+      texts << item.text;
+    return texts;
+  };
+  EXPECT_EQ(offered(Entered()), QStringList{"A   Men"});
+  EXPECT_EQ(offered(TeamsEntered()), QStringList{"D   Pairs"});
+}
+
+TEST_F(uctEntrantsTest, ATeamOfTwoIsEnteredOnceWithTheStrongerFirstAndOneOfOneIsNot) {
+  bench.Show<uctEntrants>();
+  OpenDoubles();
+  EXPECT_EQ(bench.FocusName(), "GridEX3_Table");
+  Enter(Teams(), 1);
+  ASSERT_EQ(TeamsEntered().RowCount(), 1);
+  EXPECT_EQ(TeamsEntered().TextAt(1, "TeamID"), "Iron Pair");
+  EXPECT_EQ(TeamsEntered().TextAt(1, "RingerPercent"), "50.75");
+  EXPECT_EQ(Ask("SELECT PlayerOneID FROM TournamentTeamEntrants"), Value("ADAANN"));
+  Enter(Teams(), 1);
+  EXPECT_EQ(bench.Message(), "Team already entered in Tournament");
+  Enter(Teams(), 2);
+  EXPECT_EQ(bench.Message(), "Team must have two players");
+}
+
+TEST_F(uctEntrantsTest, UpdateFromProfileAsksOnceForAPastTournamentAndNotForAFutureOne) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  file.Execute("UPDATE TournamentEntrants SET RingerPercent = 1");
+  bench.Click("cmdSetAverage");
+  EXPECT_TRUE(bench.person.questions.isEmpty());
+  EXPECT_EQ(Entered().TextAt(1, "RingerPercent"), "61.50");
+  EXPECT_EQ(Entered().TextAt(1, "Shoes"), "");
+
+  bench.clock.now = QDateTime(QDate(2025, 6, 21), QTime(9, 0));
+  bench.person.WillAnswer(true);
+  bench.Click("cmdSetAverage");
+  ASSERT_EQ(bench.person.questions.size(), 1);
+  EXPECT_EQ(bench.person.questions[0].title, "Confirm update");
+  EXPECT_EQ(bench.person.questions[0].text, "Tournament occurs in the past.  Continue?");
+}
+
+TEST_F(uctEntrantsTest, TypingJumpsToTheFirstLastNameThatBeginsSoOrComesNext) {
+  bench.Show<uctEntrants>();
+  Players().setFocus();
+  bench.Press(Qt::Key_O);
+  EXPECT_EQ(Players().Value("PlayerID"), Value("OBRAL0"));
+  bench.LeaveAndReturn();
+  bench.Press(Qt::Key_B);
+  bench.Press(Qt::Key_F);
+  EXPECT_EQ(Players().Value("PlayerID"), Value("OBRAL0"));
+}
+
+TEST_F(uctEntrantsTest, DeletingAnEntryIsAsked) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  bench.person.WillAnswer(true);
+  EXPECT_TRUE(Entered().DeleteRow());
+  EXPECT_EQ(bench.person.questions[0].text, "Delete selected entry?");
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentEntrants").ToWhole(), 0);
+}
+
+TEST_F(uctEntrantsTest, EscapeAndShiftTabLeadBackToTheList) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  bench.Press(Qt::Key_Escape);
+  EXPECT_EQ(bench.FocusName(), "GridEX1_Table");
+  Enter(Players(), 2);
+  bench.Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(bench.FocusName(), "GridEX1_Table");
+}
+
+TEST_F(uctEntrantsTest, AHeaderClickSortsWithThePercentBehind) {
+  bench.Show<uctEntrants>();
+  for (int row : {1, 2, 3}) Enter(Players(), row);
+  Entered().on.ColumnHeaderClick("Paid");
+  ASSERT_EQ(Entered().SortKeys().size(), 2);
+  EXPECT_EQ(Entered().SortKeys()[1].column, "RingerPercent");
+  EXPECT_EQ(Entered().TextAt(1, "RingerPercent"), "61.50");
+  Entered().on.ColumnHeaderClick("Paid");
+  EXPECT_EQ(Entered().SortKeys()[0].order, SortOrder::Descending);
+}
+
+TEST_F(uctEntrantsTest, AnEntryOfAPlayerDeletedFromTheRosterSaysSo) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  file.Execute("DELETE FROM Players WHERE PlayerID = 'ADAANN'");
+  bench.LeaveAndReturn();
+  EXPECT_EQ(Entered().TextAt(1, "PlayerID"), "ADAANN (not on the roster)");
+}
+
+TEST_F(uctEntrantsTest, Pictures) {
+  bench.Show<uctEntrants>();
+  for (int row : {1, 2, 3}) Enter(Players(), row);
+  bench.Shot("uctEntrants-singles");
+  EXPECT_EQ(CutTexts(*bench.Find("GridEX1").window()), QStringList());
+  OpenDoubles();
+  Enter(Teams(), 1);
+  bench.Shot("uctEntrants-doubles");
+}
+
+}  // namespace
+}  // namespace tavrelin
