@@ -66,7 +66,7 @@ void AddThrowers(QList<GridColumn>& columns, const SideColumns& side) {
     if (team) {
       columns.append({.caption = i == 0 ? "A" : "B",
                       .field = side.throwers[i],
-                      .width = 1100,
+                      .width = 850,
                       .selectable = false,
                       .editable = false,
                       .spokenCaption = Spoken(side.throwers[i])});
@@ -87,7 +87,7 @@ void AddSide(QList<GridColumn>& columns, const SideColumns& side, const QString&
   AddForfeit(columns, side);
   columns.append({.caption = "Name",
                   .field = side.id,
-                  .width = 1500,
+                  .width = 1150,
                   .editor = CellEditor::List,
                   .fill = true,
                   .spokenCaption = Spoken(Stem(side))});
@@ -173,7 +173,7 @@ QList<GridColumn> StandingsColumns(const PlayFormat& format) {
   const QString name = format.hasOverride ? "Player Name" : "Team";
   columns.append({.caption = name,
                   .field = format.standingsName,
-                  .width = 3000,
+                  .width = 1900,
                   .editable = false,
                   .fill = true});
   columns << HalfWins("Won", "Won") << HalfWins("Loss", "Loss") << Standing("Shoes", "Shoes", 800)

@@ -1,0 +1,21 @@
+// The bare cost of a Qt Widgets program: a window with a menu and a table, painted once.
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QTableWidget>
+#include <QTimer>
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QMainWindow window;
+  window.menuBar()->addMenu("&File")->addAction("Exit");
+  window.setCentralWidget(new QTableWidget(20, 6, &window));
+  window.resize(1366, 700);
+  window.show();
+  QTimer::singleShot(0, &application, [&] {
+    window.grab();
+    QApplication::quit();
+  });
+  return QApplication::exec();
+}

@@ -1,0 +1,34 @@
+// The program's own start, from main to a window that is painted and takes keys.
+//
+//     tavrelin_start_window DATABASE
+
+#include <QTimer>
+
+#include "print/SystemPrinter.h"
+#include "shell/Application.h"
+#include "shell/Desktop.h"
+#include "shell/frmError.h"
+#include "shell/frmStartUp.h"
+#include "shell/StartUp.h"
+#include "shell/Store.h"
+
+int main(int argc, char** argv) {
+  using namespace tavrelin;
+  Application application(argc, argv);
+  DesktopOperator person;
+  SystemClock clock;
+  DesktopClipboard clipboard;
+  DesktopBrowser browser;
+  Store store;
+  SystemPrinter printer(person, store);
+  const CSError::Display showError = ErrorDialog(clipboard);
+  StartUp startUp(store, showError);
+  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp);
+  window.Form_Load(application.arguments().value(1));
+  window.ShowAsLeft();
+  QTimer::singleShot(0, &application, [&] {
+    window.grab();
+    QApplication::quit();
+  });
+  return application.exec();
+}
