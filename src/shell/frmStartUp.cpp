@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QMenu>
 #include <QShortcut>
+#include <QTimer>
 
 #include "controls/Backdrop.h"
 #include "controls/ButtonBar.h"
@@ -41,7 +42,7 @@ frmStartUp::frmStartUp(const Surroundings& surroundings, StartUp& startUp,
     : QMainWindow(parent),
       surroundings_(surroundings),
       startUp_(startUp),
-      makers_(screens),
+      toMake_(screens),
       errors_(surroundings.showError),
       inner_(new QWidget(this)),
       image1_(new Backdrop(QStringLiteral(":/pictures/court.svg"), inner_)),
@@ -103,7 +104,6 @@ void frmStartUp::MakeBar() {
 
 void frmStartUp::Form_Load(const QString& commandLine) {
   errors_.Run("Form_Load", [&] {
-    MakeScreens();
     startUp_.SeedStore();
     SizePicture();
     startUp_.ChooseDatabase(commandLine);
@@ -111,8 +111,28 @@ void frmStartUp::Form_Load(const QString& commandLine) {
   });
 }
 
-void frmStartUp::MakeScreens() {
-  for (const MakeScreen& make : makers_) Listen(make(surroundings_, inner_));
+// The pause lets the window be painted first.
+void frmStartUp::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  constexpr int Pause = 30;
+  if (!AllScreensMade()) QTimer::singleShot(Pause, this, [this] { MakeNextScreen(); });
+}
+
+void frmStartUp::MakeNextScreen() {
+  errors_.Run("MakeNextScreen", [this] {
+    if (!AllScreensMade()) Listen(toMake_.takeFirst()(surroundings_, inner_));
+  });
+  if (!AllScreensMade()) QTimer::singleShot(0, this, [this] { MakeNextScreen(); });
+}
+
+Screen* frmStartUp::FindScreen(const QString& name) {
+  auto* screen = inner_->findChild<Screen*>(name, Qt::FindDirectChildrenOnly);
+  while (!screen && !AllScreensMade()) {
+    Listen(toMake_.takeFirst()(surroundings_, inner_));
+    screen = inner_->findChild<Screen*>(name, Qt::FindDirectChildrenOnly);
+  }
+  if (!screen) throw Error(errors::Subscript, tr("There is no screen of the name %1.").arg(name));
+  return screen;
 }
 
 void frmStartUp::Listen(Screen* screen) {
@@ -160,10 +180,7 @@ void frmStartUp::HidePresentScreen() {
 }
 
 void frmStartUp::ShowScreen(const QString& name) {
-  auto* screen = inner_->findChild<Screen*>(name, Qt::FindDirectChildrenOnly);
-  if (!screen) {
-    throw Error(errors::Subscript, tr("There is no screen of the name %1.").arg(name));
-  }
+  Screen* screen = FindScreen(name);
   uctControls_ = screen;
   screen->setGeometry(bbMenu_->width() + PixelsOf(ScreenGap), PixelsOf(ScreenTop),
                       inner_->width() - bbMenu_->width() - PixelsOf(PlacedMargin),

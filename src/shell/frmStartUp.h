@@ -13,7 +13,9 @@ class StartUp;
 
 /// The main window: button bar at the left, opening picture, and over it one screen at a time. It
 /// makes the screens once and hands them a place, visibility and nothing else; it knows nothing of
-/// what a screen does.
+/// what a screen does. The window can be used before all of them stand: they are made one after the
+/// other, hidden, while it waits for the operator, and one that is asked for before its turn at
+/// once.
 class frmStartUp : public QMainWindow {
   Q_OBJECT
 
@@ -34,9 +36,12 @@ class frmStartUp : public QMainWindow {
   /// first button.
   Screen* uctControls() const { return uctControls_; }
   bool ModalActive() const { return modalActive_; }
+  /// False while screens are still being made behind the open window.
+  bool AllScreensMade() const { return toMake_.isEmpty(); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -53,7 +58,8 @@ class frmStartUp : public QMainWindow {
 
   void MakeMenu();
   void MakeBar();
-  void MakeScreens();
+  void MakeNextScreen();
+  Screen* FindScreen(const QString& name);
   void Listen(Screen* screen);
   void SizePicture();
   void HidePresentScreen();
@@ -64,7 +70,7 @@ class frmStartUp : public QMainWindow {
 
   Surroundings surroundings_;
   StartUp& startUp_;
-  QList<MakeScreen> makers_;
+  QList<MakeScreen> toMake_;  ///< the screens that are not made yet, in their order
   CSError errors_;
   QWidget* inner_;
   Backdrop* image1_;

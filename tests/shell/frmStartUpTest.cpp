@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -74,7 +75,7 @@ struct frmStartUpTest : testing::Test {
     window->show();
     window->activateWindow();
     bench.Drive(window.get());
-    bench.ProcessEvents();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window->AllScreensMade(); }));
   }
   Probe& Of(const QString& screen) { return static_cast<Probe&>(bench.Find<Screen>(screen)); }
   void Go(const QString& group, const QString& item) {
@@ -291,6 +292,18 @@ TEST_F(frmStartUpTest, AllTwentyTwoScreensAreMadeInTheirOrderAndFoundByTheirRout
                    "uctLabels",        "uctInvitation",    "uctTournamentCleanup", "uctLeagues",
                    "uctLeagueScores",  "uctLeagueReports", "uctTransmittal",       "uctTeam",
                    "uctDatabase",      "uctSettings"}));
+}
+
+TEST_F(frmStartUpTest, AScreenThatIsAskedForBeforeItsTurnIsMadeAtOnce) {
+  frmStartUp early(bench.around(), startUp, Probes());
+  early.Form_Load({});
+  early.show();
+  EXPECT_FALSE(early.AllScreensMade());
+  bench.Drive(&early);
+  Go("Setup", "Settings");
+  EXPECT_EQ(early.uctControls()->objectName(), "uctSettings");
+  EXPECT_TRUE(early.uctControls()->isVisible());
+  bench.Drive(window.get());
 }
 
 TEST_F(frmStartUpTest, LooksItsPartInTheDark) {
