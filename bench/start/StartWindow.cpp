@@ -2,6 +2,7 @@
 //
 //     tavrelin_start_window DATABASE
 
+#include <cstdlib>
 #include <QTimer>
 
 #include "print/SystemPrinter.h"
@@ -28,7 +29,7 @@ int main(int argc, char** argv) {
   window.ShowAsLeft();
   QTimer::singleShot(0, &application, [&] {
     window.grab();
-    QApplication::quit();
+    std::_Exit(0);  // closing is not part of the start
   });
   return application.exec();
 }
