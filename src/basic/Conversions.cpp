@@ -36,12 +36,23 @@ std::optional<QByteArray> PlainNumber(const QString& text) {
 }
 
 template <typename Whole>
+bool Fits(double number) {
+  return number >= std::numeric_limits<Whole>::min() && number <= std::numeric_limits<Whole>::max();
+}
+
+template <typename Whole>
 Whole ToWholeNumber(const Value& value) {
   const double number = RoundHalfEven(CDbl(value));
-  const bool fits =
-      number >= std::numeric_limits<Whole>::min() && number <= std::numeric_limits<Whole>::max();
-  if (!fits) TooLarge(value);
+  if (!Fits<Whole>(number)) TooLarge(value);
   return static_cast<Whole>(number);
+}
+
+// The number that bare digits write; infinity when they go beyond a double.
+double Read(const QByteArray& digits) {
+  double number = 0;  // which it stays when the text is too small for a double
+  const auto result = std::from_chars(digits.cbegin(), digits.cend(), number);
+  const bool beyond = result.ec == std::errc::result_out_of_range && !digits.contains("e-");
+  return beyond ? std::numeric_limits<double>::infinity() : number;
 }
 
 bool IsDigit(const QString& text, qsizetype at) {
@@ -66,6 +77,13 @@ qsizetype SkipExponent(const QString& text, qsizetype at) {
 
 bool IsNumeric(const Value& value) {
   return value.IsNumber() || (value.kind() == Value::Kind::Text && PlainNumber(value.ToText()));
+}
+
+bool IsInt(const Value& value) {
+  if (value.IsNumber()) return Fits<qint16>(RoundHalfEven(value.ToNumber()));
+  if (value.kind() != Value::Kind::Text) return false;
+  const auto digits = PlainNumber(value.ToText());
+  return digits && Fits<qint16>(RoundHalfEven(Read(*digits)));
 }
 
 bool IsDate(const Value& value) {
@@ -107,9 +125,8 @@ double CDbl(const Value& value) {
   if (value.kind() != Value::Kind::Text) return value.ToNumber();
   const auto digits = PlainNumber(value.ToText());
   if (!digits) Mismatch(value, "number");
-  double number = 0;  // which it stays when the text is too small for a double
-  const auto result = std::from_chars(digits->cbegin(), digits->cend(), number);
-  if (result.ec == std::errc::result_out_of_range && !digits->contains("e-")) TooLarge(value);
+  const double number = Read(*digits);
+  if (std::isinf(number)) TooLarge(value);
   return number;
 }
 

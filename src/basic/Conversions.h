@@ -14,6 +14,9 @@ namespace tavrelin {
 /// "1e3", "(5)", "5-"). Empty text, blanks and null are not numeric.
 bool IsNumeric(const Value& value);
 
+/// True when CInt can read the value: a number, or the text of one, that fits 16 bits.
+bool IsInt(const Value& value);
+
 /// True for dates and for texts that read as one: "m/d/yyyy", "m/d/yy" (00-29 is 20xx), "m-d-yyyy",
 /// "yyyy-mm-dd", "d-MMM-yyyy", "MMM d, yyyy", "h:mm", "h:mm:ss", "h:mm AM", "h AM", or date and
 /// time joined by a blank. A first number above 12 is the day: "13/1/2024" is January 13. Numbers

@@ -15,17 +15,22 @@ constexpr int ManyShoes = 199;
 
 /// What one side of a score claims.
 struct Claim {
-  double points;
-  double ringers;
-  double singles;
+  int points;
+  int ringers;
+  int singles;
 
-  double Counted() const { return ringers + singles; }
+  int Counted() const { return ringers + singles; }
   bool TooHigh() const { return points > 3 * ringers + singles; }
 };
 
-Claim ClaimOf(const TypedRow& row, const SideColumns& side) {
-  return {row(side.points).ToNumber(), row(side.ringers[0]).ToNumber(),
-          row(side.singlePoints).ToNumber()};
+/// What a cell counts for, as it will be stored; 0 while it holds no figure.
+int FigureIn(const Value& value) {
+  return IsInt(value) ? CInt(value) : 0;
+}
+
+Claim ClaimOf(const RowValues& row, const SideColumns& side) {
+  return {FigureIn(row.value(side.points)), FigureIn(row.value(side.ringers[0])),
+          FigureIn(row.value(side.singlePoints))};
 }
 
 /// The margin of a game is what the winner's uncancelled ringers and singles give, and no more.
@@ -62,11 +67,11 @@ QList<Figure> FiguresOf(const PlayFormat& format) {
 /// Walks the checks of one row in their order; each answers false once the row is decided.
 class Checker {
  public:
-  Checker(const TypedRow& row, const GameContext& context)
+  Checker(const RowValues& row, const GameContext& context)
       : row_(row), context_(context), format_(context.rules.Format()) {}
 
   RowCheck Run() {
-    if (Shoes() && Score() && Sides() && GameNumber() && Court()) Figures();
+    if (Shoes() && Score() && Sides() && GameNumber() && Court() && Figures()) SinglePoints();
     return check_;
   }
 
@@ -76,16 +81,11 @@ class Checker {
     return false;
   }
 
-  bool Drop(const QString& message) {
-    check_.Drop(message);
-    return false;
-  }
-
   /// Only singles count shoes and hold a score against them.
   bool Counts() const { return !format_.sides[0].singlePoints.isEmpty(); }
 
   bool Shoes() {
-    if (!Counts() || row_(QStringLiteral("Shoes")).ToWhole() <= ManyShoes) return true;
+    if (!Counts() || FigureIn(row_.value(QStringLiteral("Shoes"))) <= ManyShoes) return true;
     if (context_.manyShoes.has_value()) {
       return *context_.manyShoes || Refuse({});
     }
@@ -105,8 +105,8 @@ class Checker {
     check_.Fix(QStringLiteral("ClassID"), context_.rules.classID);
     const QString entrant = Counts() ? QStringLiteral("Player") : QStringLiteral("Team");
     for (size_t i = 0; i < 2; ++i) {
-      if (!row_(format_.sides[i].id).Trimmed().isEmpty()) continue;
-      return Drop(QStringLiteral("Invalid %1 %2.").arg(entrant, i == 0 ? u"One" : u"Two"));
+      if (!row_.value(format_.sides[i].id).Trimmed().isEmpty()) continue;
+      return Refuse(QStringLiteral("Invalid %1 %2.").arg(entrant, i == 0 ? u"One" : u"Two"));
     }
     return Throwers(format_.sides[0]) && Throwers(format_.sides[1]);
   }
@@ -114,7 +114,7 @@ class Checker {
   /// Choosing a team chooses its players.
   bool Throwers(const SideColumns& side) {
     if (side.throwers.first() == side.id) return true;
-    const QString id = row_(side.id).Trimmed();
+    const QString id = row_.value(side.id).Trimmed();
     if (format_.IsPacer(id)) {
       for (int i = 0; i < 2; ++i) check_.Fix(side.throwers[i], format_.pacerThrowers[i]);
       return true;
@@ -137,11 +137,12 @@ class Checker {
   }
 
   bool GameNumber() {
-    return IsNumeric(row_(QStringLiteral("Game"))) || Refuse(QStringLiteral("Invalid game number"));
+    return IsInt(row_.value(QStringLiteral("Game"))) ||
+           Refuse(QStringLiteral("Invalid game number"));
   }
 
   bool Court() {
-    if (row_(QStringLiteral("Court")).Trimmed().isEmpty()) {
+    if (row_.value(QStringLiteral("Court")).Trimmed().isEmpty()) {
       return Refuse(QStringLiteral("Invalid court"));
     }
     if (!context_.newRow || !CourtTaken()) return true;
@@ -149,31 +150,50 @@ class Checker {
   }
 
   bool CourtTaken() const {
-    const double game = CDbl(row_(QStringLiteral("Game")));
-    const QString court = RightJustifyCourt(row_(QStringLiteral("Court")).ToText());
+    const int game = FigureIn(row_.value(QStringLiteral("Game")));
+    const QString court = RightJustifyCourt(row_.value(QStringLiteral("Court")).ToText());
     const QList<Game> games = ReadGames(context_.games, format_);
     return std::any_of(games.begin(), games.end(), [&](const Game& other) {
       return other.game == game && CompareText(RightJustifyCourt(other.court), court) == 0;
     });
   }
 
-  void Figures() {
-    if (!IsFigure(QStringLiteral("Shoes"), QStringLiteral("Invalid shoes"), true)) return;
+  bool Figures() {
+    if (!IsFigure(QStringLiteral("Shoes"), QStringLiteral("Invalid shoes"), true)) return false;
     for (const Figure& figure : FiguresOf(format_)) {
-      if (!IsFigure(figure.field, figure.message, format_.forgivesTypingSlips)) return;
+      if (!IsFigure(figure.field, figure.message, format_.forgivesTypingSlips)) return false;
     }
+    return true;
+  }
+
+  /// They may stay empty without the score checker; a slip typed before it was switched off
+  /// cannot be saved all the same.
+  bool SinglePoints() {
+    for (size_t i = 0; i < 2 && Counts(); ++i) {
+      const QString& field = format_.sides[i].singlePoints;
+      const Value value = row_.value(field);
+      if (value.IsNull() || IsInt(value)) continue;
+      if (value.Trimmed().isEmpty()) {
+        check_.Fix(field, 0);
+        continue;
+      }
+      return Refuse(
+          QStringLiteral("Invalid player %1 single points").arg(i == 0 ? u"one" : u"two"));
+    }
+    return true;
   }
 
   /// On a new row an empty figure is 0, and so, with `forgive`, is one that is no number.
   bool IsFigure(const QString& field, const QString& message, bool forgive) {
-    const Value value = row_(field);
-    if (IsNumeric(value)) return true;
-    if (!context_.newRow || !(forgive || value.Trimmed().isEmpty())) return Refuse(message);
+    const Value value = row_.value(field);
+    if (IsInt(value)) return true;
+    const bool zero = value.Trimmed().isEmpty() || (forgive && !IsNumeric(value));
+    if (!context_.newRow || !zero) return Refuse(message);
     check_.Fix(field, 0);
     return true;
   }
 
-  const TypedRow& row_;
+  const RowValues& row_;
   const GameContext& context_;
   const PlayFormat& format_;
   RowCheck check_;
@@ -181,11 +201,11 @@ class Checker {
 
 }  // namespace
 
-QString CheckScore(const TypedRow& row, double handicapPct) {
+QString CheckScore(const RowValues& row, double handicapPct) {
   const auto& sides = SinglesFormat().sides;
   const QString invalid = QStringLiteral("Score Checker On.  Invalid Score.");
-  if (!IsNumeric(row(sides[0].singlePoints)) || !IsNumeric(row(sides[1].singlePoints))) {
-    return invalid;
+  for (const SideColumns& side : sides) {
+    if (!IsInt(row.value(side.singlePoints))) return invalid;
   }
   const Claim one = ClaimOf(row, sides[0]);
   const Claim two = ClaimOf(row, sides[1]);
@@ -193,14 +213,14 @@ QString CheckScore(const TypedRow& row, double handicapPct) {
   if (one.TooHigh()) return tooHigh.arg(u"one");
   if (two.TooHigh()) return tooHigh.arg(u"two");
   if (!MarginAddsUp(one, two)) return invalid;
-  const double shoes = row(QStringLiteral("Shoes")).ToNumber();
+  const int shoes = FigureIn(row.value(QStringLiteral("Shoes")));
   if (handicapPct == 0 && (one.Counted() > shoes || two.Counted() > shoes)) {
     return QStringLiteral("Score Checker On.  Invalid Score.  Check number of shoes.");
   }
   return {};
 }
 
-RowCheck CheckGame(const TypedRow& row, const GameContext& context) {
+RowCheck CheckGame(const RowValues& row, const GameContext& context) {
   return Checker(row, context).Run();
 }
 

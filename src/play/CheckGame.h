@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <QString>
 
@@ -10,9 +9,6 @@ namespace tavrelin {
 
 struct ClassRules;
 class Recordset;
-
-/// A row of the score grid as the operator typed it: the value of a field by its name.
-using TypedRow = std::function<Value(const QString& field)>;
 
 /// What a game is checked against.
 struct GameContext {
@@ -26,12 +22,14 @@ struct GameContext {
 
 /// May this game be saved? Answers with the first thing that is wrong, a question, or nothing; and
 /// with the fields that the row takes: the class's own IDs, zeros for figures left empty on a new
-/// row, the players of a chosen team.
-RowCheck CheckGame(const TypedRow& row, const GameContext& context);
+/// row, the players of a chosen team. Whatever is wrong, the operator keeps the row and what he
+/// typed. A figure that CInt cannot take counts as wrong, so that what is saved fits its column and
+/// its sums.
+RowCheck CheckGame(const RowValues& row, const GameContext& context);
 
 /// The score checker: a ringer is three points and cancels one of the other side, and no shoe can
 /// count twice. The reason when the score cannot be right; empty when it can. In a handicap class
 /// the points do not follow from the shoes, and the shoes are not counted.
-QString CheckScore(const TypedRow& row, double handicapPct);
+QString CheckScore(const RowValues& row, double handicapPct);
 
 }  // namespace tavrelin

@@ -182,7 +182,7 @@ CourtRemark CheckByeCourts(const QStringList& courts) {
 }
 
 int RoundsOf(const QString& text) {
-  const int rounds = IsNumeric(text) ? CLng(text) : 0;
+  const int rounds = IsInt(text) ? CInt(text) : 0;
   return rounds == 0 ? 1 : rounds;
 }
 

@@ -278,8 +278,7 @@ void PlayScreen::GridEX1_AfterColEdit(GridColEdit& event) {
 }
 
 void PlayScreen::GridEX1_BeforeUpdate(GridUpdate& event) {
-  const RowValues values = CurrentRow(*GridEX1_);
-  const auto row = [&values](const QString& field) { return values.value(field); };
+  const RowValues row = CurrentRow(*GridEX1_);
   GameContext context{data_->loaded.rules, data_->loaded.games, data_->loaded.list};
   context.newRow = event.newRow;
   context.scoreChecker = chkChecker_->isChecked();

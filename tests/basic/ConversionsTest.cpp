@@ -71,6 +71,18 @@ TEST(Conversions, WholeNumbersOverflowAtTheirWidth) {
   EXPECT_EQ(ErrorNumber([] { CLng(std::numeric_limits<double>::quiet_NaN()); }), errors::Overflow);
 }
 
+TEST(Conversions, IsIntSaysWhatCIntCanRead) {
+  for (const Value& value : {Value(0), Value(-32768), Value(32767.4), Value("12"),
+                             Value(" $1,234 "), Value(true), Value("1e-999")}) {
+    EXPECT_TRUE(IsInt(value)) << value.ToText().toStdString();
+    EXPECT_NO_THROW(CInt(value));
+  }
+  for (const Value& value : {Value(), Value(""), Value("x"), Value(32767.5), Value("-32769"),
+                             Value("1e9"), Value("1e999"), Value(QDate(2026, 5, 9))}) {
+    EXPECT_FALSE(IsInt(value)) << value.ToText().toStdString();
+  }
+}
+
 TEST(Conversions, NumbersReadTextsInUsForm) {
   EXPECT_EQ(CDbl("1,234.5"), 1234.5);
   EXPECT_EQ(CDbl("(5)"), -5);

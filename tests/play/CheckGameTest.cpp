@@ -1,17 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "play/CheckGame.h"
-#include "play/ClassLoad.h"
+#include "play/ClassBench.h"
 #include "play/PlayFormat.h"
 
 namespace tavrelin {
 namespace {
 
-using Typed = QHash<QString, Value>;
-
-TypedRow Reader(const Typed& row) {
-  return [row](const QString& field) { return row.value(field); };
-}
+using Typed = RowValues;
 
 Typed With(Typed row, const Typed& changes) {
   row.insert(changes);
@@ -56,7 +52,7 @@ Recordset TeamList() {
 class CheckGameTest : public testing::Test {
  protected:
   RowCheck Check(const Typed& row) {
-    return CheckGame(Reader(row), {rules_, games_, list_, newRow_, checker_, manyShoes_});
+    return CheckGame(row, {rules_, games_, list_, newRow_, checker_, manyShoes_});
   }
   std::string Message(const Typed& changes) {
     return Check(With(row_, changes)).message.toStdString();
@@ -161,7 +157,10 @@ TEST_F(CheckGameTest, TheScoreCheckerNeedsSinglePoints) {
   EXPECT_EQ(Message({{"PlayerOneSinglePoints", ""}}), Invalid);
   EXPECT_EQ(Message({{"PlayerTwoSinglePoints", "x"}}), Invalid);
   checker_ = false;
-  EXPECT_EQ(Message({{"PlayerTwoSinglePoints", "x"}}), "");
+  EXPECT_EQ(Message({{"PlayerTwoSinglePoints", Value()}}), "");
+  EXPECT_EQ(FixOf(Check(With(row_, {{"PlayerTwoSinglePoints", " "}})), "PlayerTwoSinglePoints"),
+            "0");
+  EXPECT_EQ(Message({{"PlayerTwoSinglePoints", "x"}}), "Invalid player two single points");
 }
 
 TEST_F(CheckGameTest, ChecksRunInTheirOrder) {
@@ -189,9 +188,91 @@ TEST_F(CheckGameTest, ChecksRunInTheirOrder) {
   }
 }
 
-TEST_F(CheckGameTest, AGameWithoutAPlayerIsDropped) {
-  EXPECT_EQ(Check(With(row_, {{"PlayerOneID", " "}})).verdict, RowCheck::Verdict::Discard);
-  EXPECT_EQ(Check(With(row_, {{"Game", ""}})).verdict, RowCheck::Verdict::Cancel);
+TEST_F(CheckGameTest, WhateverIsWrongTheOperatorKeepsTheRow) {
+  for (const char* field : {"PlayerOneID", "PlayerTwoID", "Game", "Court", "Shoes"}) {
+    for (const bool newRow : {false, true}) {
+      newRow_ = newRow;
+      const RowCheck check = Check(With(row_, {{field, " "}}));
+      const bool zero = newRow && field == std::string("Shoes");
+      EXPECT_EQ(check.verdict, zero ? RowCheck::Verdict::Save : RowCheck::Verdict::Cancel) << field;
+    }
+  }
+}
+
+TEST_F(CheckGameTest, AFigureBeyondAnyScoreIsRefusedInWords) {
+  const QPair<const char*, const char*> cases[] = {
+      {"Game", "Invalid game number"},
+      {"Shoes", "Invalid shoes"},
+      {"PlayerOnePoints", "Invalid player one points"},
+      {"PlayerOneRingers", "Invalid player one ringers"},
+      {"PlayerTwoPoints", "Invalid player two points"},
+      {"PlayerTwoRingers", "Invalid player two ringers"},
+      {"PlayerOneSinglePoints", "Invalid player one single points"},
+      {"PlayerTwoSinglePoints", "Invalid player two single points"}};
+  for (const bool newRow : {false, true}) {
+    newRow_ = newRow;
+    for (const char* figure : {"1e9", "-1e9", "1e999", "32768"}) {
+      for (const auto& [field, message] : cases) {
+        EXPECT_EQ(Message({{field, figure}}), message) << field << ' ' << figure;
+      }
+    }
+  }
+  checker_ = true;
+  EXPECT_EQ(Message({{"PlayerTwoSinglePoints", "1e999"}}), Invalid);
+}
+
+TEST_F(CheckGameTest, ShoesAreCountedAsAWholeNumberHoweverTheyAreWritten) {
+  const QPair<const char*, bool> cases[] = {{"199.5", true}, {"199.4", false}, {"2e2", true},
+                                            {"$250", true},  {"-250", false},  {"", false}};
+  for (const auto& [shoes, asks] : cases) {
+    EXPECT_EQ(Check(With(row_, {{"Shoes", shoes}})).verdict == RowCheck::Verdict::Ask, asks)
+        << shoes;
+  }
+}
+
+TEST_F(CheckGameTest, FifteenPointsFromFourRingersAndThreeSinglePointsAreNotTooHigh) {
+  checker_ = true;
+  const Typed loser = {
+      {"PlayerTwoPoints", 0}, {"PlayerTwoRingers", 0}, {"PlayerTwoSinglePoints", 0}};
+  const Typed typed =
+      With(loser, {{"PlayerOnePoints", 15}, {"PlayerOneRingers", 4}, {"PlayerOneSinglePoints", 3}});
+  EXPECT_EQ(Message(typed), "");
+  EXPECT_EQ(Message(With(typed, {{"PlayerOnePoints", 16}})), OneTooHigh);
+}
+
+TEST_F(CheckGameTest, AMarginThatRingersAndSinglesDoNotGiveFailsTheCancellationTest) {
+  checker_ = true;
+  EXPECT_EQ(Message({{"PlayerOnePoints", 30},
+                     {"PlayerOneRingers", 10},
+                     {"PlayerOneSinglePoints", 5},
+                     {"PlayerTwoPoints", 12},
+                     {"PlayerTwoRingers", 4},
+                     {"PlayerTwoSinglePoints", 0}}),
+            Invalid);
+}
+
+TEST_F(CheckGameTest, ATieIsTestedFromTheSecondPlayersSideWithTheSameResult) {
+  checker_ = true;
+  for (const int singles : {0, 1}) {  // with 0 it adds up, with 1 it does not
+    const Typed one = {{"PlayerOnePoints", 12},      {"PlayerOneRingers", 4},
+                       {"PlayerOneSinglePoints", 3}, {"PlayerTwoPoints", 12},
+                       {"PlayerTwoRingers", 5},      {"PlayerTwoSinglePoints", singles}};
+    const Typed two = {
+        {"PlayerOnePoints", 12}, {"PlayerOneRingers", 5}, {"PlayerOneSinglePoints", singles},
+        {"PlayerTwoPoints", 12}, {"PlayerTwoRingers", 4}, {"PlayerTwoSinglePoints", 3}};
+    EXPECT_EQ(Message(one), singles == 0 ? "" : Invalid);
+    EXPECT_EQ(Message(two), Message(one));
+  }
+}
+
+TEST_F(CheckGameTest, AHandicapClassIsSparedTheShoesButNotTheOtherTests) {
+  checker_ = true;
+  rules_.handicapPct = 80;
+  EXPECT_EQ(Message({{"Shoes", 10}}), "");
+  EXPECT_EQ(Message({{"PlayerOnePoints", 71}}), OneTooHigh);
+  EXPECT_EQ(Message({{"PlayerOnePoints", 41}}), Invalid);
+  rules_.handicapPct = 0;
+  EXPECT_EQ(Message({{"Shoes", 10}}), TooManyShoes);
 }
 
 TEST_F(CheckGameTest, ANewGameOnAUsedCourtIsRefused) {
@@ -222,6 +303,27 @@ TEST_F(CheckGameTest, ANewRowTakesZeroForWhatIsEmptyOrNoNumber) {
        {"Shoes", "PlayerOnePoints", "PlayerOneRingers", "PlayerTwoPoints", "PlayerTwoRingers"}) {
     EXPECT_EQ(FixOf(check, field), "0") << field;
   }
+}
+
+class StoredGameTest : public ClassBench {};
+
+TEST_F(StoredGameTest, ACourtIsUsedOnlyWhereTheSameClassPlaysTheSameGameOnIt) {
+  MakeSingles(4);
+  AddClass("P", 0, "S", "B");
+  const RowValues row = {{"Game", 1},
+                         {"Court", "  1"},
+                         {"PlayerOneID", Player(1)},
+                         {"Shoes", 40},
+                         {"PlayerTwoID", Player(2)}};
+  const auto message = [&] {
+    const LoadedClass loaded = LoadClass(connection_, Rules());
+    return CheckGame(row, {loaded.rules, loaded.games, loaded.list, true}).message;
+  };
+  Store({.one = 3, .two = 4, .game = 1}, "B");
+  Store({.one = 3, .two = 4, .game = 2}, "A");
+  EXPECT_EQ(message(), "");
+  Store({.one = 3, .two = 4, .game = 1}, "A");
+  EXPECT_EQ(message(), "Court already in use for this game");
 }
 
 class CheckTeamGameTest : public CheckGameTest {

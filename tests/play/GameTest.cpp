@@ -55,6 +55,18 @@ TEST(GameIcon, ShowsNothingUntilTheGameIsApproved) {
   }
 }
 
+TEST(GameIcon, AnApprovedGameAgainstThePacerShowsWinAgainstLossEvenWithThePacersPointsHigher) {
+  const Game game = GameOf("000001", 3, "PPPPPP", 30);
+  EXPECT_EQ(GameIcon(game, 0, SinglesFormat()), Win);
+  EXPECT_EQ(GameIcon(game, 1, SinglesFormat()), Loss);
+}
+
+TEST(GameIcon, BothForfeitsOnOneGameShowTwoLosses) {
+  const Game game = GameOf("000001", 30, "000002", 3, true, true);
+  EXPECT_EQ(GameIcon(game, 0, SinglesFormat()), Loss);
+  EXPECT_EQ(GameIcon(game, 1, SinglesFormat()), Loss);
+}
+
 TEST(GameIcon, TeamZeroLosesToAnyTeam) {
   const Game game = GameOf("0", 30, "4", 3);
   EXPECT_EQ(GameIcon(game, 0, DoublesFormat()), Loss);
@@ -69,6 +81,11 @@ TEST(Court, IsTrimmedAndStandsRightInThreeCharacters) {
   for (const auto& [typed, stored] : cases) {
     EXPECT_EQ(RightJustifyCourt(typed).toStdString(), stored) << typed;
   }
+}
+
+TEST(Court, ANameOfMoreThanThreeCharactersKeepsItsFirstThree) {
+  EXPECT_EQ(RightJustifyCourt("1234"), "123");
+  EXPECT_EQ(RightJustifyCourt("Left"), "Lef");
 }
 
 TEST(ByeCourts, EveryCourtButTheLastMustHaveAName) {
@@ -88,7 +105,8 @@ TEST(ByeCourts, TheLastCourtIsBetterBlankExceptForThreeToFiveCourts) {
 }
 
 TEST(Rounds, ATextThatAsksForNoneMeansOne) {
-  const QPair<const char*, int> cases[] = {{"", 1}, {"0", 1}, {"x", 1}, {"1", 1}, {"4", 4}};
+  const QPair<const char*, int> cases[] = {{"", 1},    {"0", 1}, {"x", 1},
+                                           {"1e9", 1}, {"1", 1}, {"4", 4}};
   for (const auto& [text, rounds] : cases) EXPECT_EQ(RoundsOf(text), rounds) << text;
 }
 
