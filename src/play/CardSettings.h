@@ -16,9 +16,11 @@ enum class CardStyle {
 struct CardSettings {
   CardStyle style = CardStyle::Card;
   bool backOnly = false;  ///< no fronts are wanted: the selection stays on the back
-  bool confirms = false;  ///< the games of two-up cards are confirmed before they are printed
-  int down = 0;           ///< twips by which the club moves a card down
-  int right = 0;          ///< and to the right
+  /// The warnings of a world tournament: the games of two-up cards are confirmed before they are
+  /// printed, and so is a sheet of results with gaps.
+  bool confirms = false;
+  int down = 0;   ///< twips by which the club moves a card down
+  int right = 0;  ///< and to the right
 
   /// The club's adjustment with the place that the style takes on its sheet.
   int DownShift() const { return style == CardStyle::Card ? down : down + 3200; }

@@ -1,5 +1,7 @@
 #include "play/ClassResults.h"
 
+#include <algorithm>
+
 #include "basic/Conversions.h"
 #include "data/Connection.h"
 #include "play/Figures.h"
@@ -80,6 +82,10 @@ ClassResults ReadResults(Connection& connection, Standings& standings) {
   results.standings = StandingLines(standings);
   results.boxScores = BoxScores(connection, standings);
   return results;
+}
+
+int CopiesOf(const QString& text) {
+  return IsNumeric(text) ? std::max(CLng(text), 1) : 1;
 }
 
 int ResultsVerticalOffset(Connection& connection) {

@@ -56,6 +56,9 @@ QList<StandingLine> StandingLines(const Standings& standings);
 /// first row.
 ClassResults ReadResults(Connection& connection, Standings& standings);
 
+/// How often the sheet is printed: the number in the box, and once when it holds none or less.
+int CopiesOf(const QString& text);
+
 /// Twips by which the singles sheet is moved down, as setting 9 says; 0 when it holds no number.
 int ResultsVerticalOffset(Connection& connection);
 

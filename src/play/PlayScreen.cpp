@@ -10,14 +10,18 @@
 
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
+#include "play/CardFrame.h"
 #include "play/CheckGame.h"
 #include "play/CourtBox.h"
+#include "play/ExportFrame.h"
 #include "play/Figures.h"
 #include "play/Pairing.h"
 #include "play/PlayColumns.h"
 #include "play/PlayFormat.h"
 #include "play/PlayScreenData.h"
 #include "play/RankOverride.h"
+#include "play/ResultsFrame.h"
+#include "play/ResultsText.h"
 #include "play/ScoreNames.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
@@ -79,24 +83,31 @@ void PlayScreen::WireUp() {
   onClick(chkChecker_, "chkChecker_Click", &PlayScreen::chkChecker_Click);
   onClick(chkForfeit_, "chkForfeit_Click", &PlayScreen::chkForfeit_Click);
   onClick(cmdView_, "cmdView_Click", &PlayScreen::cmdView_Click);
+  onClick(chkExport_, "chkExport_Click", &PlayScreen::chkExport_Click);
   onClick(cmdOverride_, "cmdOverride_Click", &PlayScreen::cmdOverride_Click);
   connect(cboTournaments_, &TournamentBox::Chosen, this,
           [this] { Event("cboTournaments_LostFocus", [this] { cboTournaments_LostFocus(); }); });
+  connect(Frame2_, &CardFrame::PrintWanted, this,
+          [this] { Event("cmdPrintPair_Click", [this] { cmdPrintPair_Click(); }); });
+  connect(Frame3_, &ResultsFrame::PrintWanted, this,
+          [this] { Event("cmdPrintResults_Click", [this] { cmdPrintResults_Click(); }); });
+  connect(Frame3_, &ResultsFrame::PreviewWanted, this,
+          [this] { Event("cmdPreviewResults_Click", [this] { cmdPreviewResults_Click(); }); });
+  connect(Frame4_, &ExportFrame::ExportWanted, this,
+          [this] { Event("cmdExport_Click", [this] { cmdExport_Click(); }); });
   connect(SSTab1_, &QTabWidget::currentChanged, this,
           [this] { Event("SSTab1_Click", [this] { SSTab1_Click(); }); });
 }
 
 void PlayScreen::UserControl_Show() {
-  const Store& store = around().store;
-  chkChecker_->setChecked(store.GetRegistryString({}, "ScoreCheck", "0") == "1");
-  chkForfeit_->setChecked(store.GetRegistryString({}, "Forfeit", "0") == "1");
-  chkChecker_Click();
-  chkForfeit_Click();
+  RestoreChoices();
   data_ = std::make_unique<Data>();
   data_->connection.Open(ConnectString);
+  ReadPaperSettings();
   SSTab1_->setCurrentIndex(0);
-  cboTournaments_->Offer(TournamentChoices(data_->connection),
-                         store.GetRegistryString({}, "RecentTournament"));
+  data_->tournaments = TournamentChoices(data_->connection);
+  cboTournaments_->Offer(data_->tournaments,
+                         around().store.GetRegistryString({}, "RecentTournament"));
   cboTournaments_LostFocus();
   (cboClasses_->count() > 0 ? static_cast<QWidget*>(cboClasses_) : cboTournaments_)->setFocus();
 }
@@ -107,11 +118,31 @@ void PlayScreen::UserControl_Hide() {
   GridEX2_->SetRecordset(nullptr);
   data_.reset();
   ShowNothing();
+  StoreChoices();
+}
+
+void PlayScreen::RestoreChoices() {
+  const Store& store = around().store;
+  chkChecker_->setChecked(store.GetRegistryString({}, "ScoreCheck", "0") == "1");
+  chkForfeit_->setChecked(store.GetRegistryString({}, "Forfeit", "0") == "1");
+  chkChecker_Click();
+  chkForfeit_Click();
+  Frame3_->SetBrief(store.GetRegistryString({}, "BriefReport", "0") == "1");
+  Frame4_->SetPath(store.GetPath("TournamentPath"));
+}
+
+void PlayScreen::StoreChoices() {
   Store& store = around().store;
   store.SaveRegistryString({}, "RecentTournament", cboTournaments_->currentText().trimmed());
-  if (format_.sides[0].forfeit.isEmpty()) return;
+  store.SaveRegistryString({}, "TournamentPath", Frame4_->Path().trimmed());
+  if (!IsSingles()) return;
   store.SaveRegistryString({}, "ScoreCheck", chkChecker_->isChecked() ? "1" : "0");
   store.SaveRegistryString({}, "Forfeit", chkForfeit_->isChecked() ? "1" : "0");
+  store.SaveRegistryString({}, "BriefReport", Frame3_->IsBrief() ? "1" : "0");
+}
+
+bool PlayScreen::IsSingles() const {
+  return format_.throwers.size() == 1;
 }
 
 // Choosing a class
@@ -119,6 +150,7 @@ void PlayScreen::UserControl_Hide() {
 void PlayScreen::cboTournaments_LostFocus() {
   if (!DropClass()) return;
   sanctionID_ = cboTournaments_->SanctionID();
+  Frame4_->SetFile(ResultsFile(cboTournaments_->currentText()));
   cboClasses_->clear();
   for (const ClassRules& rules : FindClasses(data_->connection, sanctionID_, format_.code))
     cboClasses_->addItem(rules.name.isEmpty() ? rules.classID : rules.classID + "  " + rules.name);
@@ -129,6 +161,8 @@ void PlayScreen::cboLoad_Click() {
   if (classID.isEmpty() || !DropClass()) return;
   if (!ReadClass(classID)) return;
   stsInfo()->ClearMessage();
+  Frame4_->SetFile(ResultsFile(TournamentName() + "-" + cboClasses_->currentText()));
+  NameEntrants();
   if (data_->loaded.isPaired) {
     ShowPaired();
   } else {
@@ -156,6 +190,12 @@ bool PlayScreen::ReadClass(const QString& classID) {
   return false;
 }
 
+QString PlayScreen::TournamentName() const {
+  for (const TournamentChoice& tournament : data_->tournaments)
+    if (tournament.sanctionID == sanctionID_) return tournament.name;
+  return {};
+}
+
 // The three states of the screen: nothing loaded, a class without games, a class with games
 
 void PlayScreen::ShowNothing() {
@@ -163,6 +203,9 @@ void PlayScreen::ShowNothing() {
   cmdDeletePair_->setEnabled(false);
   GridEX1_->setEnabled(false);
   cmdView_->setEnabled(false);
+  Frame2_->Clear();
+  Frame3_->setEnabled(false);
+  Frame4_->setEnabled(false);
   cmdOverride_->setEnabled(false);
   lblOverride_->clear();
 }
@@ -178,7 +221,9 @@ void PlayScreen::ShowPaired() {
   cmdDeletePair_->setEnabled(true);
   cmdView_->setEnabled(true);
   GridEX1_->setEnabled(true);
-  NameEntrants();
+  Frame2_->Open(data_->loaded.highestGame);
+  Frame3_->setEnabled(true);
+  Frame4_->setEnabled(true);
   GridEX1_->SetRecordset(&data_->loaded.games);
   GridEX1_->AddSortKey("Game");
   GridEX1_->AddSortKey("Court");
@@ -207,6 +252,10 @@ void PlayScreen::NameEntrants() {
     if (side.throwers.size() < 2) continue;
     for (const QString& thrower : side.throwers) GridEX1_->SetValueList(thrower, lists.throwers);
   }
+  QStringList names;
+  for (int i = 0; i < data_->loaded.list.RecordCount(); ++i)
+    names << lists.entrants.Items()[i].text;
+  Frame2_->OfferEntrants(names);
 }
 
 // Pairing

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <QDateTime>
 
+#include "print/OutputTarget.h"
 #include "shell/Screen.h"
 
 class QCheckBox;
@@ -14,8 +16,12 @@ class QTabWidget;
 
 namespace tavrelin {
 
+class CardFrame;
 class CourtBox;
+class ExportFrame;
+class ResultsFrame;
 class TournamentBox;
+struct ClassResults;
 struct GridColEdit;
 struct GridFetchData;
 struct GridFetchIcon;
@@ -48,6 +54,7 @@ class PlayScreen : public Screen {
   QWidget* PairingBand();
   QWidget* ScoresPage();
   QWidget* ResultsPage();
+  QWidget* OutputFrames();
   QWidget* OverrideFrame();
 
   void cboTournaments_LostFocus();
@@ -59,6 +66,11 @@ class PlayScreen : public Screen {
   void chkForfeit_Click();
   void cmdView_Click();
   void cmdOverride_Click();
+  void cmdPrintPair_Click();
+  void cmdPrintResults_Click();
+  void cmdPreviewResults_Click();
+  void cmdExport_Click();
+  void chkExport_Click();
   void SSTab1_Click();
   void GridEX1_KeyDown(GridKeyDown& event);
   void GridEX1_RowColChange(int lastRow);
@@ -78,6 +90,22 @@ class PlayScreen : public Screen {
   void NameEntrants();
   void ShowStandings();
   void ShowOverride();
+  void RestoreChoices();
+  void StoreChoices();
+
+  bool IsSingles() const;
+  QString TournamentName() const;
+  /// What the club set for its cards and sheets.
+  void ReadPaperSettings();
+  /// The way that all buttons for results have in common: checks, then the ranking as the director
+  /// left it. Nothing when it was barred, and said why.
+  std::optional<ClassResults> RankForOutput();
+  /// The same, and the operator was asked about results that seem to be missing.
+  std::optional<ClassResults> ResultsForPaper();
+  bool SheetWouldHaveGaps() const;
+  /// `results` must outlive the report.
+  Report SheetOf(const ClassResults& results) const;
+  void ReturnToGames();
 
   const PlayFormat& format_;
   TournamentBox* cboTournaments_;
@@ -95,6 +123,10 @@ class PlayScreen : public Screen {
   QCheckBox* chkChecker_;
   QCheckBox* chkForfeit_;
   QPushButton* cmdView_;
+  CardFrame* Frame2_;
+  ResultsFrame* Frame3_;
+  ExportFrame* Frame4_;
+  QCheckBox* chkExport_;
   QLabel* lblOverride_;
   QPushButton* cmdOverride_;
 

@@ -1,15 +1,20 @@
 #pragma once
 
 #include "data/Connection.h"
+#include "play/CardSettings.h"
 #include "play/ClassLoad.h"
 #include "play/PlayScreen.h"
 #include "play/Ranking.h"
+#include "tournament/Entries.h"
 
 namespace tavrelin {
 
 /// What a play screen holds from show to hide. Rows go before their connection.
 struct PlayScreen::Data {
   Connection connection;
+  QList<TournamentChoice> tournaments;
+  CardSettings cardSettings;
+  int verticalOffset = 0;  ///< twips by which the sheet of results is moved down
   LoadedClass loaded;
   Standings standings;
 };

@@ -10,9 +10,12 @@
 #include <QVBoxLayout>
 
 #include "controls/GridEX.h"
+#include "play/CardFrame.h"
 #include "play/CourtBox.h"
+#include "play/ExportFrame.h"
 #include "play/PlayFormat.h"
 #include "play/PlayScreen.h"
+#include "play/ResultsFrame.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "tournament/TournamentBox.h"
@@ -60,6 +63,10 @@ void PlayScreen::BuildControls() {
   chkChecker_ = NewControl<QCheckBox>("chkChecker", "Score Checker", this);
   chkForfeit_ = NewControl<QCheckBox>("chkForfeit", "Forfeits Visible", this);
   cmdView_ = NewControl<QPushButton>("cmdView", "View", this);
+  Frame3_ = new ResultsFrame(format_, this);
+  Frame2_ = new CardFrame(format_, this);
+  Frame4_ = new ExportFrame(format_, this);
+  chkExport_ = NewControl<QCheckBox>("chkExport", "Export Option", this);
   lblOverride_ = NewControl<QLabel>("lblOverride", "", this);
   cmdOverride_ = NewControl<QPushButton>("cmdOverride", "Apply Override", this);
 }
@@ -120,8 +127,24 @@ QWidget* PlayScreen::ResultsPage() {
   auto* column = new QVBoxLayout(page);
   column->setSpacing(8);
   column->addWidget(GridEX2_, 1);
+  column->addWidget(OutputFrames());
   column->addWidget(OverrideFrame());
   return page;
+}
+
+// In doubles cards and text file share one place.
+QWidget* PlayScreen::OutputFrames() {
+  auto* band = new QWidget(this);
+  auto* row = new QHBoxLayout(band);
+  row->setContentsMargins({});
+  row->setSpacing(8);
+  row->addWidget(Frame3_, 3);
+  row->addWidget(Frame2_, 4);
+  row->addWidget(Frame4_, 4);
+  row->addWidget(chkExport_);
+  chkExport_->setVisible(!IsSingles());
+  if (!IsSingles()) chkExport_Click();
+  return band;
 }
 
 QWidget* PlayScreen::OverrideFrame() {

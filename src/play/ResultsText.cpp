@@ -281,6 +281,10 @@ QString WriteResults(const QString& path, const QString& file, const QString& te
   return {};
 }
 
+QString ResultsFile(const QString& about) {
+  return QString(about).remove(u' ') + QStringLiteral(".txt");
+}
+
 QString ResultsFolder(const QString& path, bool doubles) {
   const QString folder = path.trimmed();
   return doubles || folder.endsWith(u'\\') ? folder : folder + u'\\';

@@ -20,4 +20,7 @@ QString WriteResults(const QString& path, const QString& file, const QString& te
 /// A singles class's export folder with the "\" it needs at its end; doubles leaves it as typed.
 QString ResultsFolder(const QString& path, bool doubles);
 
+/// The name proposed for a text file about this: blanks removed, ".txt" at its end.
+QString ResultsFile(const QString& about);
+
 }  // namespace tavrelin
