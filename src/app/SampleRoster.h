@@ -26,7 +26,7 @@ struct SampleTeam {
 /// Writes 120 invented players and returns them, the strongest first.
 QList<SamplePlayer> AddSamplePlayers(Connection& connection, Dice& dice);
 
-/// Writes 16 teams of two neighbours in the list each.
+/// Writes 16 teams of two neighbors in the list each.
 QList<SampleTeam> AddSampleTeams(Connection& connection, const QList<SamplePlayer>& players);
 
 }  // namespace tavrelin

@@ -40,7 +40,8 @@ inline constexpr int NoSuchField = 3265;    ///< a field that the recordset does
 inline constexpr int FieldTooSmall = 3163;  ///< a text or number its column cannot hold
 inline constexpr int DataTypeMismatch = 3464;
 inline constexpr int Syntax = 3075;
-inline constexpr int FileUnusable = 3343;  ///< not a database, damaged, replaced, in use, or newer
+inline constexpr int FileInUse = 3045;     ///< another copy of the program has it open
+inline constexpr int FileUnusable = 3343;  ///< not a database, damaged, replaced, or newer
 inline constexpr int Database = 10000;     ///< plus SQLite's extended result code
 }  // namespace errors
 

@@ -7,7 +7,7 @@ namespace tavrelin {
 
 // Paths are taken as the boxes keep them (see PlatformPath).
 
-/// Writes a whole text file: to a temporary neighbour first, which then takes the old file's place,
+/// Writes a whole text file: to a temporary neighbor first, which then takes the old file's place,
 /// so that the old file stays as it was until the new one is complete. Lines end in CRLF, in
 /// whichever way `text` ends them. Windows-1252, as the association's programs expect; UTF-8 when a
 /// character needs it.

@@ -18,7 +18,7 @@
 namespace tavrelin {
 namespace {
 
-// Between opening the neighbour and locking it, the one who held it may have removed it.
+// Between opening the neighbor and locking it, the one who held it may have removed it.
 bool IsStillThere(int descriptor, const QByteArray& path) {
   struct stat opened {};
   struct stat present {};
@@ -27,7 +27,7 @@ bool IsStillThere(int descriptor, const QByteArray& path) {
 }
 
 [[noreturn]] void RefuseSecondCopy(const QString& file) {
-  throw Error(errors::FileUnusable,
+  throw Error(errors::FileInUse,
               QStringLiteral("The file %1 is open in another copy of the program. Use that window, "
                              "or close it first.")
                   .arg(QDir::toNativeSeparators(file)));

@@ -35,6 +35,11 @@ void CSError::ClearMethod() {
 }
 
 void CSError::Raise(const Error& error) {
+  if (!raising_) BeginRaise(error);
+  throw Error(number_, description_, callStack_);
+}
+
+void CSError::BeginRaise(const Error& error) {
   raising_ = true;
   number_ = error.number();
   if (error.description().startsWith(Mark)) {
@@ -44,7 +49,6 @@ void CSError::Raise(const Error& error) {
     if (generalMessage_.isEmpty()) generalMessage_ = error.description();
     description_ = Mark + generalMessage_ + QLatin1Char('~') + error.description();
   }
-  throw Error(number_, description_, callStack_);
 }
 
 void CSError::DisplayError(const Error& error, const QString& title) {

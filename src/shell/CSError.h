@@ -36,7 +36,8 @@ class CSError {
   /// Pops the newest name.
   void ClearMethod();
   /// Passes an error up to a caller's CSError: marks it with the general message and throws it
-  /// again with the call stack as its source.
+  /// again with the call stack as its source. While an error is being raised, a further Raise
+  /// throws that same error on, whatever it is given.
   [[noreturn]] void Raise(const Error& error);
   /// The last stop of an error: shows it and starts the stack afresh.
   void DisplayError(const Error& error, const QString& title = {});
@@ -48,6 +49,8 @@ class CSError {
   const QString& CallStack() const { return callStack_; }  ///< newest first, joined by "~"
 
  private:
+  void BeginRaise(const Error& error);
+
   Display display_;
   QString generalMessage_, description_, methodName_, callStack_;
   qint32 number_ = 0;

@@ -16,6 +16,9 @@ namespace {
 const QString DataSource = QStringLiteral("uid=;pwd=;dsn=Tavrelin");
 const QString CurrentDatabase = QStringLiteral("CurrentDatabase");
 
+// All of it is the window's Form_Load, and the trail of an error says so.
+constexpr char FormLoad[] = "Form_Load";
+
 }  // namespace
 
 StartUp::StartUp(Store& store, CSError::Display showError)
@@ -44,21 +47,23 @@ void StartUp::ChooseDatabase(const QString& commandLine) {
   ConnectString = ConnectStringFor(DatabasePath);
 }
 
-// That the data source does not open is how a missing one is noticed: no failure.
+// That the data source does not open is how a missing one is noticed: no failure. One whose file is
+// open in another copy of the program is there all the same; a second start must not lead the
+// operator away from it for good.
 bool StartUp::DataSourceWorks() const {
   try {
     Connection test;
     test.Open(DataSource);
     return true;
-  } catch (const Error&) {
-    return false;
+  } catch (const Error& error) {
+    return error.number() == errors::FileInUse;
   }
 }
 
 QString StartUp::StoredPath() {
   const QString path = store_.GetRegistryString({}, CurrentDatabase);
   if (!path.isEmpty()) return path;
-  errors_.Run("StoredPath", [this] {
+  errors_.Run(FormLoad, [this] {
     if (store_.SaveRegistryString({}, CurrentDatabase, QLatin1String(DefaultDatabase))) return;
     throw Error(errors::File,
                 QStringLiteral("Your settings cannot be kept in %1. The program works, but forgets "
@@ -69,7 +74,7 @@ QString StartUp::StoredPath() {
 }
 
 void StartUp::UpdateDatabase() {
-  errors_.Run("UpdateDatabase", [this] {
+  errors_.Run(FormLoad, [this] {
     DeliverFirstFile();
     UpdateDB();
   });

@@ -207,7 +207,7 @@ TEST_F(PairingTest, AnUnpairedClassOffersItsCourtsByNumber) {
   }
 }
 
-TEST_F(PairingTest, APacerClassIsRecognisedFromItsGamesAndAByeClassNeedsNothing) {
+TEST_F(PairingTest, APacerClassIsRecognizedFromItsGamesAndAByeClassNeedsNothing) {
   MakeSingles(3);
   Pair(Pacer);
   LoadedClass loaded = LoadClass(connection_, Rules());

@@ -432,7 +432,7 @@ TEST(RankOrderTest, TheMethodAndTheHandicapChooseTheOrderAndItsName) {
   }
 }
 
-TEST(RankOrderTest, OnlySinglesKnowAnOverrideAndOnlyPaperHonoursIt) {
+TEST(RankOrderTest, OnlySinglesKnowAnOverrideAndOnlyPaperHonorsIt) {
   ClassRules rules{"2601007", "A", "", 0, 40, "P", "S", true};
   EXPECT_EQ(OrderOf(rules, true).sort, "Override ASC");
   EXPECT_EQ(OrderOf(rules, true).basis, "(Rank - Override)");

@@ -77,6 +77,22 @@ TEST_F(CSErrorTest, ARaisedErrorArrivesWithItsGeneralMessageAndTheTrailOfBothObj
   EXPECT_EQ(shown[0].callStack, "RankTheClass\r\ncmdPrint_Click");
 }
 
+TEST_F(CSErrorTest, AnErrorRaisedThroughTwoProceduresOfOneObjectKeepsItsTrail) {
+  errors.SetMethodName("outer");
+  errors.SetMethodName("inner");
+  try {
+    try {
+      errors.Raise(Error(6, "Overflow"));
+    } catch (const Error& error) {
+      errors.Raise(error);
+    }
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), 6);
+    EXPECT_EQ(error.description(), "[CSError]Overflow~Overflow");
+    EXPECT_EQ(error.source(), "inner~outer");
+  }
+}
+
 TEST_F(CSErrorTest, ASecondErrorAfterTheDialogStartsWithAnEmptyStack) {
   errors.Run("first", [] { throw Error(1, "one"); });
   errors.Run("second", [] { throw std::runtime_error("two"); });

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <sqlite3.h>
+#include <cstdio>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -11,11 +12,14 @@
 #include <QTemporaryDir>
 
 #include "data/Connection.h"
-#include "data/FileClaim.h"
+#include "data/Recordset.h"
 #include "data/Schema.h"
 #include "shell/Routes.h"
 #include "shell/Store.h"
 #include "shell/SystemInfo.h"
+#include "support/FaultBench.h"
+#include "support/OldClub.h"
+#include "support/PlainDatabase.h"
 #include "support/QtPrinters.h"
 
 namespace tavrelin {
@@ -25,6 +29,25 @@ const QString DataSourceString = QStringLiteral("uid=;pwd=;dsn=Tavrelin");
 const QString DefaultPath = QStringLiteral("C:\\TavrelinData\\Tavrelin.mdb");
 const QString MdbDriver = QStringLiteral(";Driver={Microsoft Access Driver (*.mdb)};");
 const QString AccdbDriver = QStringLiteral(";Driver={Microsoft Access Driver (*.mdb, *.accdb)};");
+
+/// A second process that holds a file the way another copy of the program does, while it lives.
+class OtherCopy {
+ public:
+  explicit OtherCopy(const QString& file) {
+    process_.start("flock", {file + ".lock", "-c", "echo held; read line"});
+    EXPECT_TRUE(process_.waitForReadyRead());
+  }
+  ~OtherCopy() {
+    process_.write("\n");
+    process_.closeWriteChannel();
+    process_.waitForFinished();
+  }
+  OtherCopy(const OtherCopy&) = delete;
+  OtherCopy& operator=(const OtherCopy&) = delete;
+
+ private:
+  QProcess process_;
+};
 
 /// A machine of its own: no settings, no data source, an empty TavrelinData folder.
 struct StartUpTest : testing::Test {
@@ -62,11 +85,19 @@ struct StartUpTest : testing::Test {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
   }
+  /// The connection text of a run with that path stored.
+  QString ConnectStringOf(const QString& path) {
+    StorePath(path);
+    startUp.ChooseDatabase({});
+    return ConnectString;
+  }
   /// What the operator reads after a run with that file, which must be exactly one error.
   QString RefusalOf(const QString& file) {
     startUp.Run(file);
     EXPECT_EQ(shown.size(), 1);
-    return shown.isEmpty() ? QString() : shown.takeFirst().generalMessage;
+    if (shown.isEmpty()) return {};
+    EXPECT_EQ(shown[0].callStack, "Form_Load");
+    return shown.takeFirst().generalMessage;
   }
 };
 
@@ -100,23 +131,31 @@ TEST_F(StartUpTest, AStoredPathWinsOverADataSourceThatWorks) {
   EXPECT_EQ(ConnectString, "DBQ=" + club + MdbDriver);
 }
 
-TEST_F(StartUpTest, TheDriverFollowsThePathsExtensionAndCaseCounts) {
-  const struct {
-    QString path, connectString;
-  } cases[] = {
-      {"/a/club.mdb", "DBQ=/a/club.mdb" + MdbDriver},
-      {"/a/club.accdb", "DBQ=/a/club.accdb" + AccdbDriver},
-      {"/old.mdb/club.accdb", "DBQ=/old.mdb/club.accdb" + MdbDriver},
-      {"/a/club.MDB", DataSourceString},
-      {"/a/club", DataSourceString},
-  };
-  for (const auto& one : cases) {
-    SCOPED_TRACE(one.path.toStdString());
-    StorePath(one.path);
-    startUp.ChooseDatabase({});
-    EXPECT_EQ(ConnectString, one.connectString);
-    EXPECT_EQ(DatabasePath, one.path);
+// A second start of the program beside the first.
+TEST_F(StartUpTest, ADataSourceWhoseFileIsOpenInAnotherCopyIsRefusedAndStoresNothing) {
+  const QString club = Club("club.db");
+  DefineDataSource(club);
+  store.SaveRegistryString("", "Forfeit", "1");
+  OtherCopy other(club);
+  EXPECT_TRUE(RefusalOf({}).contains("No club file is in use"));
+  EXPECT_EQ(ConnectString, DataSourceString);
+  EXPECT_EQ(StoredPath(), "");
+}
+
+TEST_F(StartUpTest, TheDriverFollowsThePathsExtension) {
+  EXPECT_EQ(ConnectStringOf("/a/club.mdb"), "DBQ=/a/club.mdb" + MdbDriver);
+  EXPECT_EQ(ConnectStringOf("/a/club.accdb"), "DBQ=/a/club.accdb" + AccdbDriver);
+}
+
+TEST_F(StartUpTest, APathWithoutEitherExtensionOrWithOneInCapitalsFallsBackToTheDataSource) {
+  for (const char* path : {"/a/club", "/a/club.MDB", "/a/club.Accdb"}) {
+    EXPECT_EQ(ConnectStringOf(path), DataSourceString) << path;
+    EXPECT_EQ(DatabasePath, path);
   }
+}
+
+TEST_F(StartUpTest, AFolderNameWithMdbBeforeAnAccdbFileGetsTheMdbDriver) {
+  EXPECT_EQ(ConnectStringOf("/old.mdb/club.accdb"), "DBQ=/old.mdb/club.accdb" + MdbDriver);
 }
 
 TEST_F(StartUpTest, APathOnTheCommandLineIsUsedForThisRunAndNotStored) {
@@ -182,17 +221,12 @@ TEST_F(StartUpTest, AFileOfANewerProgramIsRefused) {
   EXPECT_TRUE(RefusalOf(path).contains("newer program"));
 }
 
-// A second process holds the file the way another copy of the program does.
 TEST_F(StartUpTest, AFileOpenInAnotherCopyIsRefused) {
   const QString path = Club("club.mdb");
-  QProcess other;
-  other.start("flock", {path + ".lock", "-c", "echo held; read line"});
-  ASSERT_TRUE(other.waitForStarted());
-  ASSERT_TRUE(other.waitForReadyRead());
-  EXPECT_TRUE(RefusalOf(path).contains("another copy"));
-  other.write("\n");
-  other.closeWriteChannel();
-  other.waitForFinished();
+  {
+    OtherCopy other(path);
+    EXPECT_TRUE(RefusalOf(path).contains("another copy"));
+  }
   startUp.Run(path);
   EXPECT_TRUE(shown.isEmpty());
 }
@@ -224,6 +258,67 @@ TEST_F(StartUpTest, SettingsThatCannotBeKeptAreTold) {
 TEST_F(StartUpTest, APlaceWhereNothingCanBeDeliveredIsTold) {
   WriteFile(machine.filePath("TavrelinData"), "a file where the folder should be");
   EXPECT_TRUE(RefusalOf({}).contains("TavrelinData"));
+}
+
+// Run by the next tests as a process of its own, in a place that can only be read.
+TEST(StartUpWorker, DISABLED_StartsOnTheFileOfTheEnvironmentAndChangesARow) {
+  Store store;
+  const auto tell = [](const ErrorReport& report) {
+    std::printf("shown: %s\n", qPrintable(report.generalMessage));
+  };
+  StartUp(store, tell).Run(qEnvironmentVariable("TAVRELIN_WORKER_FILE"));
+  try {
+    Connection connection;
+    connection.Open(ConnectString);
+    Recordset settings;
+    settings.Open("SELECT * FROM SystemSettings ORDER BY SettingID", connection,
+                  Recordset::Lock::Optimistic);
+    std::printf("read: %d\n", settings.RecordCount());
+    settings.Set("SettingValue", "9");
+    settings.Update();
+    std::puts("written");
+  } catch (const Error& error) {
+    std::printf("refused: %s\n", error.what());
+  }
+}
+
+struct ReadOnlyPlace : StartUpTest {
+  QString file = machine.filePath("stick/club.mdb");
+
+  /// What the worker said; empty where this machine forbids such places.
+  QString StartThere() {
+    FaultBench bench;
+    bench.SetVariable("TAVRELIN_STORE", machine.filePath("store.ini"));
+    bench.SetVariable("TAVRELIN_WORKER_FILE", file);
+    const auto outcome = bench.WithReadOnly(
+        machine.filePath("stick"),
+        FaultBench::Worker("StartUpWorker.DISABLED_StartsOnTheFileOfTheEnvironmentAndChangesARow"));
+    return outcome.ran ? outcome.output : QString();
+  }
+};
+
+TEST_F(ReadOnlyPlace, AClubsFileIsShownThereAndAChangeIsRefusedWithASentence) {
+  Club("stick/club.mdb");
+  const QStringList before = PlainDatabase(file).Content();
+  const QString said = StartThere();
+  if (said.isEmpty()) GTEST_SKIP() << "mounting is not allowed here";
+  EXPECT_FALSE(said.contains("shown:")) << said.toStdString();
+  EXPECT_TRUE(said.contains("read: 11")) << said.toStdString();
+  EXPECT_TRUE(said.contains("refused: The file " + file + " can only be read. Copy it to a folder"))
+      << said.toStdString();
+  EXPECT_EQ(PlainDatabase(file).Content(), before);
+}
+
+TEST_F(ReadOnlyPlace, AnOldFileThatCannotBeBroughtUpThereIsToldAtTheStart) {
+  ASSERT_TRUE(QDir(machine.path()).mkdir("stick"));
+  MakeOldClub(file, 20);
+  const QStringList before = PlainDatabase(file).Content();
+  const QString said = StartThere();
+  if (said.isEmpty()) GTEST_SKIP() << "mounting is not allowed here";
+  EXPECT_EQ(said.count("shown:"), 1) << said.toStdString();
+  EXPECT_TRUE(said.contains("shown: The file " + file + " can only be read. Copy it to a folder"))
+      << said.toStdString();
+  EXPECT_EQ(PlainDatabase(file).Content(), before);
 }
 
 TEST_F(StartUpTest, TheSystemInformationToolIsFoundByPathElseByFolderIfItIsThere) {
