@@ -37,11 +37,14 @@ bool IsCutShort(sqlite3* handle) {
 }
 
 int RefuseWhenGone(void* handle) {
-  auto* db = static_cast<sqlite3*>(handle);
-  return HasMoved(db) || IsCutShort(db) ? 1 : 0;
+  return IsFileGone(static_cast<sqlite3*>(handle)) ? 1 : 0;
 }
 
 }  // namespace
+
+bool IsFileGone(sqlite3* handle) {
+  return HasMoved(handle) || IsCutShort(handle);
+}
 
 void GuardCommits(sqlite3* handle) {
   sqlite3_commit_hook(handle, RefuseWhenGone, handle);

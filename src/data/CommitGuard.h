@@ -9,4 +9,8 @@ namespace tavrelin {
 /// go on writing into a file that nobody will open again.
 void GuardCommits(sqlite3* handle);
 
+/// True when the file under the connection is no longer the file at its path or was cut short. An
+/// emptied file looks to SQLite like a new one, whose tables are missing.
+bool IsFileGone(sqlite3* handle);
+
 }  // namespace tavrelin

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QString>
 
+#include "data/CommitGuard.h"
+
 namespace tavrelin {
 namespace {
 
@@ -118,9 +120,10 @@ void ThrowDatabaseError(sqlite3* handle) {
   const QByteArray utf8 = sqlite3_errmsg(handle);
   ThrowEncoded(utf8);
   const QString message = QString::fromUtf8(utf8);
-  if (code == SQLITE_ERROR) ThrowMistake(message);
   const char* path = sqlite3_db_filename(handle, "main");
   const QString file = QDir::toNativeSeparators(QString::fromUtf8(path ? path : ""));
+  if (code == SQLITE_ERROR && IsFileGone(handle)) ThrowMoved(file);
+  if (code == SQLITE_ERROR) ThrowMistake(message);
   if (code == SQLITE_READONLY_DBMOVED) ThrowMoved(file);
   const int primary = code & 0xff;
   if (primary == SQLITE_CONSTRAINT) ThrowConstraint(code, file, message);

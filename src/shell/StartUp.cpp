@@ -21,7 +21,7 @@ constexpr char FormLoad[] = "Form_Load";
 
 }  // namespace
 
-StartUp::StartUp(Store& store, CSError::Display showError)
+StartUp::StartUp(Store& store, const CSError::Display& showError)
     : store_(store), showError_(showError), errors_(showError) {}
 
 StartUp::~StartUp() = default;

@@ -17,7 +17,7 @@ inline constexpr char DefaultDatabase[] = "C:\\TavrelinData\\Tavrelin.mdb";
 /// to date. Needs no window. The store must outlive it.
 class StartUp {
  public:
-  StartUp(Store& store, CSError::Display showError);
+  StartUp(Store& store, const CSError::Display& showError);
   ~StartUp();
 
   /// On the first run of an operator: the machine's settings become the operator's own, and the

@@ -157,10 +157,13 @@ bool frmError::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
+// A failure while the program was busy: the hourglass would tell the reader to wait.
 CSError::Display ErrorDialog(Clipboard& clipboard) {
   return [&clipboard](const ErrorReport& report) {
     frmError dialog(report, clipboard, QApplication::activeWindow());
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
     dialog.exec();
+    QApplication::restoreOverrideCursor();
   };
 }
 

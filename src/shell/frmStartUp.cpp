@@ -30,9 +30,10 @@ constexpr int PlacedMargin = 120;
 constexpr int ResizedMargin = 90;
 constexpr int PictureMargin = 220;
 
-QUrl ManualAddress() {
-  return QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
-                             QLatin1String("/Tavrelinhelp.pdf"));
+/// A file beside the program.
+QUrl ProgramFile(const char* name) {
+  return QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
+                             QLatin1String(name));
 }
 
 }  // namespace
@@ -57,6 +58,8 @@ frmStartUp::frmStartUp(const Surroundings& surroundings, StartUp& startUp,
   inner_->installEventFilter(this);
   auto* switchFocus = new QShortcut(QKeySequence(Qt::Key_F6), this);
   connect(switchFocus, &QShortcut::activated, this, &frmStartUp::SwitchFocus);
+  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+  connect(help, &QShortcut::activated, this, &frmStartUp::ShowHelpFile);
 }
 
 // Hidden first, so that the present screen ends its edits while all of it still stands.
@@ -73,13 +76,12 @@ void frmStartUp::MakeMenu() {
     action->setObjectName(QLatin1String(name));
     menu->addAction(action);
     connect(action, &QAction::triggered, this, command);
-    return action;
   };
   QMenu* mnuFile = bar->addMenu(tr("&File"));
   mnuFile->setObjectName(QStringLiteral("mnuFile"));
   add(mnuFile, "mnuExit", tr("Exit"), &frmStartUp::mnuExit_Click);
   add(bar, "mnuAbout", tr("&About"), &frmStartUp::mnuAbout_Click);
-  add(bar, "mnuHelp", tr("&Help"), &frmStartUp::mnuHelp_Click)->setShortcut(Qt::Key_F1);
+  add(bar, "mnuHelp", tr("&Help"), &frmStartUp::mnuHelp_Click);
   add(bar, "mnuHelpDesk", tr("&Help Desk"), &frmStartUp::mnuHelpDesk_Click);
 }
 
@@ -104,6 +106,7 @@ void frmStartUp::MakeBar() {
 
 void frmStartUp::Form_Load(const QString& commandLine) {
   errors_.Run("Form_Load", [&] {
+    helpFile_ = ProgramFile("Tavrelin.hlp");
     startUp_.SeedStore();
     SizePicture();
     startUp_.ChooseDatabase(commandLine);
@@ -227,8 +230,10 @@ void frmStartUp::Form_Resize() {
 }
 
 void frmStartUp::mnuExit_Click() {
-  uctControls_ = nullptr;
-  close();
+  errors_.Run("mnuExit_Click", [this] {
+    uctControls_ = nullptr;
+    close();
+  });
 }
 
 void frmStartUp::mnuAbout_Click() {
@@ -237,9 +242,16 @@ void frmStartUp::mnuAbout_Click() {
 
 void frmStartUp::mnuHelp_Click() {
   errors_.Run("mnuHelp_Click", [this] {
-    OpenDocument(ManualAddress(),
+    OpenDocument(ProgramFile("Tavrelinhelp.pdf"),
                  tr("The manual could not be opened. Look for the file Tavrelinhelp.pdf in the "
                     "program's folder:\n%1"));
+  });
+}
+
+// Not every desktop has a program for help files, and not every installation brings one.
+void frmStartUp::ShowHelpFile() {
+  errors_.Run("ShowHelpFile", [this] {
+    if (!surroundings_.browser.Open(helpFile_)) mnuHelp_Click();
   });
 }
 

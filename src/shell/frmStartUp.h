@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QUrl>
 
 #include "shell/Screen.h"
 #include "shell/Screens.h"
@@ -25,8 +26,8 @@ class frmStartUp : public QMainWindow {
              const QList<MakeScreen>& screens = AllScreens(), QWidget* parent = nullptr);
   ~frmStartUp() override;
 
-  /// Starts the application up: makes the screens, chooses the database and brings it up to date.
-  /// `commandLine` is a database path for this run, or empty. No failure gets out of it.
+  /// Starts the application up: chooses the database and brings it up to date. `commandLine` is a
+  /// database path for this run, or empty. No failure gets out of it.
   void Form_Load(const QString& commandLine);
 
   /// Opens at the size and place it was left with, if that place is still on a screen.
@@ -64,6 +65,8 @@ class frmStartUp : public QMainWindow {
   void SizePicture();
   void HidePresentScreen();
   void ShowScreen(const QString& name);
+  /// F1: the application's help file, or the manual in its place.
+  void ShowHelpFile();
   void FocusScreen();
   void SwitchFocus();
   void OpenDocument(const QUrl& address, const QString& sentence);
@@ -72,6 +75,7 @@ class frmStartUp : public QMainWindow {
   StartUp& startUp_;
   QList<MakeScreen> toMake_;  ///< the screens that are not made yet, in their order
   CSError errors_;
+  QUrl helpFile_;
   QWidget* inner_;
   Backdrop* image1_;
   ButtonBar* bbMenu_;

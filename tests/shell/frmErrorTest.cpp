@@ -143,5 +143,18 @@ TEST_F(frmErrorTest, TheDisplayWaitsUntilTheDialogIsClosed) {
   EXPECT_TRUE(seen);
 }
 
+TEST_F(frmErrorTest, TheHourglassRestsWhileTheDialogIsRead) {
+  Qt::CursorShape pointer = Qt::BlankCursor;
+  QTimer::singleShot(0, [&] {
+    pointer = QApplication::overrideCursor()->shape();
+    QApplication::activeModalWidget()->close();
+  });
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  ErrorDialog(bench.clipboard)(TwoNames);
+  EXPECT_EQ(pointer, Qt::ArrowCursor);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  QApplication::restoreOverrideCursor();
+}
+
 }  // namespace
 }  // namespace tavrelin

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -16,6 +17,7 @@
 #include "shell/HelpDesk.h"
 #include "shell/Routes.h"
 #include "shell/StartUp.h"
+#include "shell/Store.h"
 #include "support/ScreenBench.h"
 
 namespace tavrelin {
@@ -152,7 +154,8 @@ TEST_F(frmStartUpTest, WhileAScreenIsModalButtonsAndHeadersBeepAndChangeNothing)
   Q_EMIT Of("uctTransmittal").ModalBehavior(true);
   bench.Click("Tournaments");
   bench.Click("Players/Profile");
-  EXPECT_EQ(bench.person.beeps, 2);
+  bench.Find<BarButton>("Tournaments/Setup").click();
+  EXPECT_EQ(bench.person.beeps, 3);
   EXPECT_EQ(Visible(), QStringList("uctTransmittal"));
   EXPECT_EQ(bench.Find<ButtonBar>("bbMenu").OpenedGroup(), "Players");
   Q_EMIT Of("uctTransmittal").ModalBehavior(false);
@@ -160,7 +163,7 @@ TEST_F(frmStartUpTest, WhileAScreenIsModalButtonsAndHeadersBeepAndChangeNothing)
   EXPECT_EQ(Visible(), QStringList("uctExport"));
   Go("Tournaments", "Setup");
   EXPECT_EQ(Visible(), QStringList("uctTournaments"));
-  EXPECT_EQ(bench.person.beeps, 2);
+  EXPECT_EQ(bench.person.beeps, 3);
 }
 
 TEST_F(frmStartUpTest, OnlyTheScreenThatIsUpIsHeard) {
@@ -221,6 +224,18 @@ TEST_F(frmStartUpTest, HelpOpensTheManualAndHelpDeskTheAddress) {
   EXPECT_TRUE(bench.person.told[0].text.contains("Tavrelinhelp.pdf"));
 }
 
+TEST_F(frmStartUpTest, TheHelpKeyOpensTheHelpFileOrTheManualInItsPlace) {
+  bench.Press(Qt::Key_F1);
+  ASSERT_EQ(bench.browser.opened.size(), 1);
+  EXPECT_EQ(bench.browser.opened[0].toLocalFile(),
+            QCoreApplication::applicationDirPath() + "/Tavrelin.hlp");
+  bench.browser.works = false;
+  bench.Press(Qt::Key_F1);
+  ASSERT_EQ(bench.browser.opened.size(), 3);
+  EXPECT_TRUE(bench.browser.opened[2].toLocalFile().endsWith("/Tavrelinhelp.pdf"));
+  EXPECT_EQ(bench.person.told.size(), 1);
+}
+
 TEST_F(frmStartUpTest, TheLetterOfBothHelpsWalksBetweenThemAndEnterRunsTheMarkedOne) {
   bench.Press(Qt::Key_H, Qt::AltModifier);
   EXPECT_EQ(window->menuBar()->activeAction(), &Command("mnuHelp"));
@@ -257,6 +272,29 @@ TEST_F(frmStartUpTest, AboutTellsNameVersionAndWhomToAsk) {
   ASSERT_EQ(bench.person.told.size(), 1);
   EXPECT_EQ(bench.person.told[0].title, "System Information Unavailable");
   EXPECT_EQ(bench.person.told[0].text, "System Information Is Unavailable At This Time");
+}
+
+TEST_F(frmStartUpTest, AboutStartsTheSystemInformationToolWhereThereIsOneAndOkClosesIt) {
+  const QString tool = bench.PathOf("sysinfo"), mark = bench.PathOf("started");
+  QFile script(tool);
+  ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+  script.write("#!/bin/sh\ntouch " + mark.toUtf8() + "\n");
+  script.close();
+  script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  const QString machine = bench.PathOf("machine.ini");
+  Store(machine).SaveRegistryString("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", tool);
+  qputenv("TAVRELIN_MACHINE_STORE", machine.toUtf8());
+  bool closed = false;
+  OnDialog([&](QWidget& about) {
+    about.findChild<QPushButton*>("cmdSysInfo")->click();
+    about.findChild<QPushButton*>("cmdOK")->click();
+    closed = !about.isVisible();
+  });
+  Command("mnuAbout").trigger();
+  qunsetenv("TAVRELIN_MACHINE_STORE");
+  EXPECT_TRUE(closed);
+  EXPECT_TRUE(bench.person.told.isEmpty());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(mark); }));
 }
 
 TEST_F(frmStartUpTest, ANewWindowOpensAtTheSizeAndPlaceTheLastOneWasLeftWith) {
