@@ -14,7 +14,7 @@ void FillPercents(BoxFigures& figures) {
   }
 }
 
-BoxLine LineOf(const Game& game, int side, const QHash<QString, QString>& names) {
+BoxLine LineOf(const Game& game, int side, const ByID<QString>& names) {
   const GameSide& own = game.sides[static_cast<size_t>(side)];
   const GameSide& other = game.sides[static_cast<size_t>(1 - side)];
   BoxLine line;
@@ -62,8 +62,7 @@ BoxScore BlockOf(const Recordset& row, const PlayFormat& format) {
 
 QList<BoxScore> BoxScores(Connection& connection, Standings& standings) {
   const PlayFormat& format = standings.rules.Format();
-  const QHash<QString, QString> names =
-      format.entrantNames(connection, EntrantsIn(standings.games));
+  const ByID<QString> names = format.entrantNames(connection, EntrantsIn(standings.games));
   QList<BoxScore> blocks;
   Recordset& rows = standings.rows;
   if (rows.RecordCount() == 0) return blocks;

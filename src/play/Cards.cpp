@@ -109,9 +109,9 @@ class CardWriter {
   const PlayFormat& format_;
   CardSide side_;
   QList<Game> games_;
-  QHash<QString, QString> names_;
+  ByID<QString> names_;
   double best_;
-  QHash<QString, int> numbers_;
+  ByID<int> numbers_;
 };
 
 }  // namespace
@@ -137,7 +137,7 @@ QList<Card> Cards(Connection& connection, const LoadedClass& loaded, const GameR
 
 QList<WorksheetLine> Worksheet(Connection& connection, const LoadedClass& loaded) {
   const QList<Game> games = ReadGames(loaded.games, loaded.Format());
-  const QHash<QString, QString> names = loaded.Format().entrantNames(connection, EntrantsIn(games));
+  const ByID<QString> names = loaded.Format().entrantNames(connection, EntrantsIn(games));
   QList<WorksheetLine> lines;
   for (const Game& game : games) {
     lines << WorksheetLine{game.game, game.court, names.value(game.sides[0].id),

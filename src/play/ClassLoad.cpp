@@ -44,7 +44,7 @@ void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>&
     for (const ThrowerColumns& thrower : format.throwers)
       ids << entrant.values[thrower.id].ToText();
   }
-  const QHash<QString, PersonName> names = PlayerNames(connection, ids);
+  const ByID<PersonName> names = PlayerNames(connection, ids);
   for (Entrant& entrant : entrants) {
     for (const ThrowerColumns& thrower : format.throwers) {
       const PersonName name = names.value(entrant.values[thrower.id].ToText());

@@ -83,9 +83,9 @@ QStringList EntryColumns(const PlayFormat& format) {
   return columns;
 }
 
-QHash<QString, QList<Value>> ReadEntryColumns(Connection& connection, const ClassRules& rules) {
+ByID<QList<Value>> ReadEntryColumns(Connection& connection, const ClassRules& rules) {
   const PlayFormat& format = rules.Format();
-  QHash<QString, QList<Value>> entries;
+  ByID<QList<Value>> entries;
   Recordset rows;
   rows.Open(QStringLiteral("SELECT %1, %2 FROM %3 WHERE SanctionID = ? AND ClassID = ?")
                 .arg(format.entrantID, EntryColumns(format).join(u", "), format.entrantTable),
@@ -102,7 +102,7 @@ void WriteStandings(Connection& connection, Standings& standings, QTextStream& o
   const QStringList shown = {
       format.entrantID, format.standingsName, "Won",    "Loss",        "Shoes",
       "Ringers",        "RingerPercent",      "Points", "OverAverage", "HeadToHead"};
-  const QHash<QString, QList<Value>> entries = ReadEntryColumns(connection, standings.rules);
+  const ByID<QList<Value>> entries = ReadEntryColumns(connection, standings.rules);
   TextTable table(out, QStringList{"Rank"} + shown + EntryColumns(format));
   int place = 0;
   for (Recordset& rows = standings.rows; !rows.AtEnd(); rows.MoveNext()) {

@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "data/Recordset.h"
+#include "play/ByID.h"
 #include "play/PlayFormat.h"
 
 namespace tavrelin {
@@ -72,8 +73,9 @@ int GameSide::Ringers() const {
 }
 
 int Game::SideOf(const QString& id) const {
-  if (sides[0].id == id) return 0;
-  return sides[1].id == id ? 1 : -1;
+  const QString key = IDKey(id);
+  if (IDKey(sides[0].id) == key) return 0;
+  return IDKey(sides[1].id) == key ? 1 : -1;
 }
 
 QStringList EntrantsIn(const QList<Game>& games) {

@@ -22,15 +22,17 @@ Recordset RowsByID(Connection& connection, const QString& select, const QString&
   return rows;
 }
 
-QHash<QString, QString> FullNames(Connection& connection, const QStringList& ids) {
-  QHash<QString, QString> names;
-  const QHash<QString, PersonName> people = PlayerNames(connection, ids);
-  for (auto it = people.begin(); it != people.end(); ++it) names[it.key()] = it->Full();
+ByID<QString> FullNames(Connection& connection, const QStringList& ids) {
+  ByID<QString> names;
+  const ByID<PersonName> people = PlayerNames(connection, ids);
+  for (const QString& id : ids) {
+    if (people.contains(id)) names[id] = people.value(id).Full();
+  }
   return names;
 }
 
-QHash<QString, QString> TeamNames(Connection& connection, const QStringList& ids) {
-  QHash<QString, QString> names;
+ByID<QString> TeamNames(Connection& connection, const QStringList& ids) {
+  ByID<QString> names;
   Recordset rows = RowsByID(connection, QStringLiteral("SELECT TeamID, Team FROM Teams"),
                             QStringLiteral("TeamID"), ids);
   for (; !rows.AtEnd(); rows.MoveNext()) names[rows.At(0).ToText()] = rows.At(1).Trimmed();
@@ -213,8 +215,8 @@ const PlayFormat& FormatOf(const QString& code) {
   return code.trimmed().compare(u"D", Qt::CaseInsensitive) == 0 ? DoublesFormat() : SinglesFormat();
 }
 
-QHash<QString, PersonName> PlayerNames(Connection& connection, const QStringList& ids) {
-  QHash<QString, PersonName> names;
+ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids) {
+  ByID<PersonName> names;
   Recordset rows =
       RowsByID(connection, QStringLiteral("SELECT PlayerID, FirstName, LastName FROM Players"),
                QStringLiteral("PlayerID"), ids);

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <array>
-#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include "basic/Value.h"
 #include "data/Recordset.h"
+#include "play/ByID.h"
 
 namespace tavrelin {
 
@@ -71,7 +71,7 @@ struct PlayFormat {
 
   /// The names of these entrants by ID, in one query: players as "First Last", teams by their team
   /// name. Who is not in the file, the pacer above all, is not in the answer.
-  QHash<QString, QString> (*entrantNames)(Connection& connection, const QStringList& ids);
+  ByID<QString> (*entrantNames)(Connection& connection, const QStringList& ids);
 
   bool IsPacer(const QString& id) const { return id == pacerID.ToText(); }
 };
@@ -88,6 +88,6 @@ struct PersonName {
 };
 
 /// First and last names by PlayerID, in one query.
-QHash<QString, PersonName> PlayerNames(Connection& connection, const QStringList& ids);
+ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids);
 
 }  // namespace tavrelin

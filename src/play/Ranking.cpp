@@ -49,7 +49,7 @@ void FillNames(Connection& connection, const PlayFormat& format, Recordset& rows
   EachRow(rows, [&] {
     for (const ThrowerColumns& thrower : format.throwers) ids << rows[thrower.id].ToText();
   });
-  const QHash<QString, PersonName> names = PlayerNames(connection, ids);
+  const ByID<PersonName> names = PlayerNames(connection, ids);
   EachRow(rows, [&] {
     for (const ThrowerColumns& thrower : format.throwers) {
       rows.Set(thrower.fullName, names.value(rows[thrower.id].ToText()).Full().left(45));
@@ -68,27 +68,31 @@ double TieFigure(const Recordset& rows, const QString& method) {
   return rows[QStringLiteral("Points")].ToNumber();
 }
 
+QPair<QString, QString> PairOf(const QString& winner, const QString& loser) {
+  return {IDKey(winner), IDKey(loser)};
+}
+
 /// Games won, by winner and loser: on the points as they stand, approved or not, whatever forfeits.
 QHash<QPair<QString, QString>, int> Wins(const QList<Game>& games) {
   QHash<QPair<QString, QString>, int> wins;
   for (const Game& game : games) {
-    const GameSide& one = game.sides[0];
-    const GameSide& two = game.sides[1];
-    if (one.points > two.points) ++wins[{one.id, two.id}];
-    if (two.points > one.points) ++wins[{two.id, one.id}];
+    const auto& [one, two] = game.sides;
+    if (one.points == two.points) continue;
+    const bool first = one.points > two.points;
+    ++wins[first ? PairOf(one.id, two.id) : PairOf(two.id, one.id)];
   }
   return wins;
 }
 
 /// The games won against the players one is tied with. Who has no win is in no tie.
-QHash<QString, int> HeadToHead(const QList<Level>& levels, const QList<Game>& games) {
+ByID<int> HeadToHead(const QList<Level>& levels, const QList<Game>& games) {
   const QHash<QPair<QString, QString>, int> wins = Wins(games);
-  QHash<QString, int> counts;
+  ByID<int> counts;
   for (const Level& me : levels) {
     if (me.wins == 0) continue;
     for (const Level& other : levels) {
       const bool tied = me.wins == other.wins && me.figure == other.figure;
-      if (tied && me.id != other.id) counts[me.id] += wins.value({me.id, other.id});
+      if (tied && me.id != other.id) counts[me.id] += wins.value(PairOf(me.id, other.id));
     }
   }
   return counts;
@@ -106,7 +110,7 @@ void WriteHeadToHead(Connection& connection, Standings& standings) {
                    static_cast<float>(rows[QStringLiteral("Won")].ToNumber()),
                    TieFigure(rows, rules.rankMethod)});
   });
-  const QHash<QString, int> counts = HeadToHead(levels, standings.games);
+  const ByID<int> counts = HeadToHead(levels, standings.games);
   const QString update =
       QStringLiteral("UPDATE %1 SET HeadToHead = ? WHERE %2 = ? AND SanctionID = ?")
           .arg(format.entrantTable, format.entrantID);

@@ -24,10 +24,10 @@ EntrantLists NamesForScores(Connection& connection, const LoadedClass& loaded) {
   }
 
   EntrantLists lists;
-  const QHash<QString, QString> names = format.entrantNames(connection, ids);
+  const ByID<QString> names = format.entrantNames(connection, ids);
   for (const QString& id : ids)
     lists.entrants.Add(id, format.IsPacer(id) ? "PACER" : names.value(id, id + " (not on file)"));
-  const QHash<QString, PersonName> people = PlayerNames(connection, players);
+  const ByID<PersonName> people = PlayerNames(connection, players);
   for (const QString& id : players) {
     const qsizetype pacer = format.pacerThrowers.indexOf(id);
     const QString name = people.contains(id) ? people[id].Full() : id + " (not on file)";

@@ -63,8 +63,8 @@ Recordset OpenEntries(Connection& connection, const ClassRules& rules) {
 
 }  // namespace
 
-QHash<QString, Totals> AddUp(const QList<Game>& games, const PlayFormat& format) {
-  QHash<QString, Totals> all;
+ByID<Totals> AddUp(const QList<Game>& games, const PlayFormat& format) {
+  ByID<Totals> all;
   for (const Game& game : games) {
     if (!game.approved) continue;
     for (int i = 0; i < 2; ++i) {
@@ -79,8 +79,8 @@ QHash<QString, Totals> AddUp(const QList<Game>& games, const PlayFormat& format)
   return all;
 }
 
-QHash<QString, float> HighGames(const QList<Game>& games, qsizetype thrower) {
-  QHash<QString, float> best;
+ByID<float> HighGames(const QList<Game>& games, qsizetype thrower) {
+  ByID<float> best;
   for (const Game& game : games) {
     if (!game.approved || game.shoes <= 0) continue;
     for (const GameSide& side : game.sides) {
@@ -94,8 +94,8 @@ QHash<QString, float> HighGames(const QList<Game>& games, qsizetype thrower) {
 
 void WriteTotals(Connection& connection, const ClassRules& rules, const QList<Game>& games) {
   const PlayFormat& format = rules.Format();
-  const QHash<QString, Totals> all = AddUp(games, format);
-  QList<QHash<QString, float>> high;
+  const ByID<Totals> all = AddUp(games, format);
+  QList<ByID<float>> high;
   for (qsizetype i = 0; i < format.throwers.size(); ++i) high << HighGames(games, i);
 
   for (Recordset rows = OpenEntries(connection, rules); !rows.AtEnd(); rows.MoveNext()) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QHash>
 #include <QList>
 #include <QString>
 
+#include "play/ByID.h"
 #include "play/Game.h"
 
 namespace tavrelin {
@@ -23,11 +23,11 @@ struct Totals {
 };
 
 /// Totals by entrant. A game forfeited adds a loss and nothing else; the pacer has none.
-QHash<QString, Totals> AddUp(const QList<Game>& games, const PlayFormat& format);
+ByID<Totals> AddUp(const QList<Game>& games, const PlayFormat& format);
 
 /// Best ringer percentage of a single approved game, by player, for throwers in one place of the
 /// side (0, or 1 for the second partner).
-QHash<QString, float> HighGames(const QList<Game>& games, qsizetype thrower);
+ByID<float> HighGames(const QList<Game>& games, qsizetype thrower);
 
 /// Stores the totals of every entry of the class, zeros where no game counts, and raises the high
 /// games. One statement an entry; call it in a Batch.

@@ -3,7 +3,6 @@
 #include <QFile>
 
 #include "play/ClassBench.h"
-#include "play/Pairing.h"
 #include "play/Ranking.h"
 #include "support/FaultBench.h"
 
@@ -12,23 +11,12 @@ namespace {
 
 constexpr const char* FileName = "TAVRELIN_KILLED_FILE";
 
-/// What the process to be killed does: this program again, with one of these tests alone.
-struct KilledChild : testing::Test {
-  KilledChild() {
-    connection.Open("DBQ=" + qEnvironmentVariable(FileName));
-    rules = FindClass(connection, "2601007", "A").value();
-  }
+/// A process to be killed that ranks: this program again, with this test alone. No command of the
+/// command line ranks into the file.
+TEST(KilledChild, DISABLED_Rank) {
   Connection connection;
-  ClassRules rules;
-};
-
-TEST_F(KilledChild, DISABLED_Pair) {
-  const QStringList courts = LoadClass(connection, rules).courts;
-  EXPECT_EQ(CreatePairing(connection, rules, {courts, 4, OddEntrant::Pacer}), "");
-}
-
-TEST_F(KilledChild, DISABLED_Rank) {
-  EXPECT_EQ(RankTheClass(connection, rules).refusal, "");
+  connection.Open("DBQ=" + qEnvironmentVariable(FileName));
+  EXPECT_EQ(RankTheClass(connection, FindClass(connection, "2601007", "A").value()).refusal, "");
 }
 
 class KilledTest : public ClassBench {
@@ -49,35 +37,47 @@ class KilledTest : public ClassBench {
     return all;
   }
 
-  /// Kills the worker at each of its writes in turn and looks at what is left.
-  void KillAtEveryWrite(const QString& name) {
-    connection_.Close();
-    const QString copy = folder_.filePath("Copy.mdb");
+  QString Copy() const { return folder_.filePath("Copy.mdb"); }
+
+  /// Kills the worker, who works on the copy, at each of his calls in turn; what is left each time,
+  /// the last time of a worker who was let live.
+  QList<QStringList> KillAtEvery(const QString& call, const QStringList& worker) {
     FaultBench bench;
-    bench.SetVariable(FileName, copy);
+    bench.SetVariable(FileName, Copy());
     bench.SetVariable("ASAN_OPTIONS", "detect_leaks=0");  // it cannot look under strace
-    const QStringList worker = FaultBench::Worker("KilledChild." + name);
-    const QStringList before = Content(path_);
     QList<QStringList> left;
     for (int at = 1;; ++at) {
-      QFile::remove(copy);
-      QFile::remove(copy + "-journal");
-      ASSERT_TRUE(QFile::copy(path_, copy));
-      const FaultBench::Outcome outcome = bench.KillAt(at, worker);
-      if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";
-      left << Content(copy);
-      if (!outcome.killed) break;
+      QFile::remove(Copy());
+      QFile::remove(Copy() + "-journal");
+      EXPECT_TRUE(QFile::copy(path_, Copy()));
+      const FaultBench::Outcome outcome = bench.KillAt(at, worker, call);
+      if (!outcome.ran) return {};
+      left << Content(Copy());
+      if (outcome.killed) continue;
+      EXPECT_EQ(outcome.exitCode, 0);
+      return left;
     }
-    const QStringList after = left.last();
-    EXPECT_NE(after, before);
-    for (const QStringList& content : left) EXPECT_TRUE(content == before || content == after);
-    EXPECT_GE(left.count(before), 4);
+  }
+
+  /// The calls by which a commit changes the file, makes sure of it and is done.
+  void ExpectWholeOrNothing(const QStringList& worker) {
+    connection_.Close();
+    const QStringList before = Content(path_);
+    for (const QString call : {"pwrite64", "fdatasync", "unlink"}) {
+      const QList<QStringList> left = KillAtEvery(call, worker);
+      if (left.isEmpty()) GTEST_SKIP() << "strace is not allowed here";
+      const QStringList& after = left.last();
+      EXPECT_NE(after, before);
+      for (const QStringList& content : left) EXPECT_TRUE(content == before || content == after);
+      EXPECT_GE(left.count(before), call == u"pwrite64" ? 4 : 1) << call.toStdString();
+    }
   }
 };
 
 TEST_F(KilledTest, APairingIsThereWholeOrNotAtAll) {
   MakeSingles(9);
-  KillAtEveryWrite("DISABLED_Pair");
+  ExpectWholeOrNothing({TAVRELIN_BINARY_DIR "/src/app/tavrelinctl", "pair", Copy(), "26-01-007",
+                        "A", "--pacer", "--rounds", "4"});
 }
 
 TEST_F(KilledTest, ARankingIsThereWholeOrNotAtAll) {
@@ -88,7 +88,7 @@ TEST_F(KilledTest, ARankingIsThereWholeOrNotAtAll) {
       for (int two = one + 1; two <= 12; ++two) Store({one, two, {one, two}, {{one}, {two}}});
     }
   }
-  KillAtEveryWrite("DISABLED_Rank");
+  ExpectWholeOrNothing(FaultBench::Worker("KilledChild.DISABLED_Rank"));
 }
 
 }  // namespace

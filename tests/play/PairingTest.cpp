@@ -180,6 +180,16 @@ TEST_F(PairingTest, SeedsNumberTheClassAndUnseededFollowByPercentage) {
   EXPECT_EQ(order, (QStringList{"4", "5", "3", "2", "1", "6"}));
 }
 
+TEST_F(PairingTest, TwoPlayersWithEqualSeedAreNumberedByPercentageTheHigherFirst) {
+  AddClass();
+  AddPlayers(2);
+  Enter(1, 30, 1);
+  Enter(2, 40, 1);
+  const LoadedClass loaded = LoadClass(connection_, Rules());
+  EXPECT_EQ(loaded.list.CellAt(1, 0).ToText(), Player(2));
+  EXPECT_EQ(loaded.list.CellAt(2, 0).ToText(), Player(1));
+}
+
 TEST_F(PairingTest, AClassWhereNobodyIsSeededIsNumberedByPercentageAlone) {
   AddClass();
   AddPlayers(3);

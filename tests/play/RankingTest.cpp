@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "play/BoxScores.h"
 #include "play/ClassBench.h"
 #include "play/PlayFormat.h"
 #include "play/RankOverride.h"
@@ -153,6 +154,26 @@ TEST_F(RankingTest, ACycleOfThreeGivesOneEachAndThePercentageDecides) {
   EXPECT_EQ(Order(standings), "2 3 1 4");
 }
 
+TEST_F(RankingTest, ThreePlayersWithThreeWinsGetTheirWinsOverTheTwoOthers) {
+  MakeSingles(6, "H");
+  // 1 beat 2 and 3, 2 beat 3; the rest of their three wins each came from 4, 5 and 6.
+  Play({{1, 2, {30, 10}},
+        {1, 3, {30, 10}},
+        {1, 4, {30, 10}},
+        {2, 3, {30, 10}},
+        {2, 4, {30, 10}},
+        {2, 5, {30, 10}},
+        {3, 4, {30, 10}},
+        {3, 5, {30, 10}},
+        {3, 6, {30, 10}}});
+  const Standings standings = Rank();
+  const double counts[] = {2, 1, 0};
+  for (int n = 1; n <= 3; ++n) {
+    EXPECT_EQ(Figure(standings, n, "Won"), 3);
+    EXPECT_EQ(Figure(standings, n, "HeadToHead"), counts[n - 1]);
+  }
+}
+
 TEST_F(RankingTest, HeadToHeadCountsGamesWonAndRepeatedRoundsAgain) {
   MakeSingles(4, "H");
   // Three wins each for 1 and 2; 1 beat 2 twice, 2 beat 1 once.
@@ -228,12 +249,17 @@ TEST_F(RankingTest, HeadToHeadDisregardsForfeits) {
   EXPECT_EQ(Figure(Rank(), 1, "HeadToHead"), 1);
 }
 
-TEST_F(RankingTest, WinlessPlayersHaveNoHeadToHead) {
-  MakeSingles(2, "H");
-  Play({{1, 2, {30, 10}, {{0}, {0}}, 40, false}});
-  const Standings standings = Rank();
-  EXPECT_EQ(Figure(standings, 1, "HeadToHead"), 0);
-  EXPECT_EQ(Order(standings), "1 2");
+TEST_F(RankingTest, WinlessPlayersHaveNoHeadToHeadInEveryCase) {
+  MakeSingles(2);
+  // 1 has the points over 2, but the game is not approved and the other one he forfeits.
+  Play({{1, 2, {30, 10}, {{0}, {0}}, 40, false},
+        {1, 2, {30, 10}, {{0}, {0}}, 40, true, {true, true}}});
+  for (const char* method : {"P", "R", "H", "O"}) {
+    connection_.Execute("UPDATE TournamentClasses SET RankMethod = ?", {method});
+    const Standings standings = Rank();
+    EXPECT_EQ(Figure(standings, 1, "HeadToHead"), 0) << method;
+    EXPECT_EQ(Order(standings), "1 2") << method;
+  }
 }
 
 TEST_F(RankingTest, HeadToHeadIsStoredInBothClassesOfAPlayer) {
@@ -273,6 +299,59 @@ TEST_F(RankingTest, TheHighGameNeedsShoesAndAnApprovedGame) {
   Rank();
   EXPECT_EQ(Stored(1, "HiGame"), double{static_cast<float>(200 / 3.0)});
   EXPECT_TRUE(Cell("SELECT HiGame FROM TournamentEntrants WHERE PlayerID = '000002'").IsNull());
+}
+
+TEST_F(RankingTest, UnapprovingAPlayersBestGameLeavesHisHighGame) {
+  MakeSingles(2);
+  Play({{1, 2, {30, 10}, {{30}, {10}}, 40}});
+  Rank();
+  connection_.Execute("UPDATE TournamentSinglesRR SET Approved = False");
+  Rank();
+  EXPECT_EQ(Stored(1, "HiGame"), 75);
+}
+
+TEST_F(RankingTest, LetterCaseDoesNotPartAPlayerFromHisEntryOrHisGames) {
+  MakeSingles(3, "H");
+  Play({{1, 2, {30, 10}, {{30}, {10}}}, {2, 3, {30, 10}}});
+  connection_.Execute("UPDATE Players SET PlayerID = 'ABC001' WHERE PlayerID = '000001'");
+  connection_.Execute(
+      "UPDATE TournamentEntrants SET PlayerID = 'abc001' WHERE PlayerID = '000001'");
+  connection_.Execute(
+      "UPDATE TournamentSinglesRR SET PlayerOneID = 'Abc001' WHERE PlayerOneID = '000001'");
+  Standings standings = Rank();
+  EXPECT_EQ(standings.rows["PlayerName"].ToText(), "P1 Stone");
+  EXPECT_EQ(standings.rows["Won"].ToNumber(), 1);
+  EXPECT_EQ(standings.rows["HeadToHead"].ToNumber(), 1);
+  EXPECT_EQ(Rows("SELECT TotalRingers, HiGame, HeadToHead FROM TournamentEntrants WHERE PlayerID = "
+                 "'ABC001'"),
+            QStringList{"30 75 1"});
+  const QList<BoxScore> blocks = BoxScores(connection_, standings);
+  ASSERT_EQ(blocks[0].lines.size(), 1);
+  EXPECT_EQ(blocks[1].lines[0].opponent, "P1 Stone");
+}
+
+TEST_F(RankingTest, WhoIsTakenOffTheRosterLeavesTheListAndHisGamesStay) {
+  MakeSingles(3, "H");
+  Play({{1, 2, {30, 10}}, {2, 3, {30, 10}}, {3, 1, {30, 10}}});
+  connection_.Execute("DELETE FROM Players WHERE PlayerID = '000002'");
+  Standings standings = Rank();
+  EXPECT_EQ(Order(standings), "3 1");
+  EXPECT_EQ(Figure(standings, 1, "Won"), 1);  // over him
+  EXPECT_EQ(Stored(2, "TotalWins"), 1);       // his entry still counts
+  const LoadedClass loaded = LoadClass(connection_, Rules());
+  EXPECT_EQ(Column(loaded.list, "PlayerID"), "000001 000003");
+  EXPECT_EQ(Column(loaded.games, "PlayerOneNumber"), "1 2 3");
+  EXPECT_EQ(BoxScores(connection_, standings).size(), 2);
+}
+
+TEST_F(RankingTest, WhoseEntryIsDeletedLeavesTheListAndHisGamesStay) {
+  MakeSingles(3, "H");
+  Play({{1, 2, {30, 10}}, {2, 3, {30, 10}}, {3, 1, {30, 10}}});
+  connection_.Execute("DELETE FROM TournamentEntrants WHERE PlayerID = '000002'");
+  const Standings standings = Rank();
+  EXPECT_EQ(Order(standings), "3 1");
+  EXPECT_EQ(Figure(standings, 1, "Won"), 1);
+  EXPECT_EQ(Cell("SELECT COUNT(*) FROM TournamentSinglesRR").ToWhole(), 3);
 }
 
 TEST_F(RankingTest, UnseededEntrantsShowAs99) {
@@ -540,6 +619,18 @@ TEST_F(RankingTest, MethodRBreaksATieLastOnTheFigureOverAverage) {
   SetAverage(2, 90);
   Play({{1, 3, {30, 5}, {{10}, {0}}}, {2, 4, {31, 5}, {{10}, {0}}}});
   EXPECT_EQ(Order(Rank()), "1 2 3 4");
+}
+
+TEST_F(TeamRankingTest, ATeamOrAPartnerTakenOffTheFileDoesNoHarm) {
+  MakeDoubles(3);
+  PlayTeams({{1, 2, {30, 10}}, {2, 3, {30, 10}}, {3, 1, {30, 10}}});
+  connection_.Execute("DELETE FROM Teams WHERE TeamID = 2");
+  connection_.Execute("DELETE FROM Players WHERE PlayerID = ?", {Partner(1, 0)});
+  Standings standings = Rank();
+  EXPECT_EQ(standings.rows.RecordCount(), 2);
+  EXPECT_EQ(Figure(standings, 1, "Won"), 1);
+  EXPECT_EQ(LoadClass(connection_, Rules()).entrants, 2);
+  EXPECT_EQ(BoxScores(connection_, standings).size(), 2);
 }
 
 TEST_F(TeamRankingTest, HeadToHeadIsKeptByTeam) {
