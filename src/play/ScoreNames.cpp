@@ -30,7 +30,7 @@ EntrantLists NamesForScores(Connection& connection, const LoadedClass& loaded) {
   const ByID<PersonName> people = PlayerNames(connection, players);
   for (const QString& id : players) {
     const qsizetype pacer = format.pacerThrowers.indexOf(id);
-    const QString name = people.contains(id) ? people[id].Full() : id + " (not on file)";
+    const QString name = people.contains(id) ? people.value(id).Full() : id + " (not on file)";
     lists.throwers.Add(id, pacer < 0 ? name : QString("PACER %1").arg(pacer + 1));
   }
   return lists;
