@@ -632,7 +632,7 @@ TEST_F(uctPlayTimeResultsTest, NothingIsCutAndTheStandingKeepsItsRoom) {
     dark ? UseDarkPalette() : UseLightPalette();
     ShowResults();
     Check("chkStandings");
-    bench.Shot(dark ? "uctPlayTime-results-dark" : "uctPlayTime-results");
+    bench.Shot(dark ? "uctPlayTime-frames-dark" : "uctPlayTime-frames");
     EXPECT_EQ(CutTexts(*bench.Find("uctPlayTime").window()), QStringList());
     EXPECT_GE(bench.Find("GridEX2").height(), 200);
   }

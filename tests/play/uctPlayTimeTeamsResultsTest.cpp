@@ -260,7 +260,7 @@ TEST_F(uctPlayTimeTeamsResultsTest, NothingIsCutAndTheStandingKeepsItsRoom) {
     dark ? UseDarkPalette() : UseLightPalette();
     ShowResults();
     const QString look = dark ? "-dark" : "";
-    bench.Shot("uctPlayTimeTeams-results" + look);
+    bench.Shot("uctPlayTimeTeams-frames" + look);
     EXPECT_EQ(CutTexts(*bench.Find("uctPlayTimeTeams").window()), QStringList());
     bench.Click("chkExport");
     bench.Shot("uctPlayTimeTeams-export" + look);
