@@ -40,8 +40,8 @@ bool DemoPrinter::Print(const QString& title, const Report& report, int) {
 void DemoPrinter::Preview(const QString& title, const Report& report) {
   frmReport preview(store_);
   preview.SetDocument(Record(OutputTarget::Kind::Preview, title, report), {});
-  preview.resize(1000, 700);
   preview.show();
+  preview.resize(1000, 700);
   folder_.KeepPicture(preview, name_);
 }
 

@@ -102,7 +102,7 @@ std::optional<ClassResults> PlayScreen::RankForOutput() {
     Frame3_->FocusStandings();
     return {};
   }
-  if (!GridEX1_->MoveToNewRow()) return {};
+  if (!GridEX1_->CommitRow()) return {};
   if (IsSingles() && data_->loaded.games.RecordCount() == 0) {
     Refuse("Round robin has not been created");
     return {};
