@@ -17,11 +17,8 @@ constexpr QLatin1String Help("--help");
 
 void ListCommands(const QList<Command>& commands, QTextStream& out) {
   out << "Usage: tavrelinctl COMMAND ARGUMENTS\n\n";
-  qsizetype width = 0;
-  for (const Command& command : commands) width = std::max(width, command.usage.size());
-  for (const Command& command : commands) {
-    out << "  " << command.usage.leftJustified(width) << "  " << command.purpose << '\n';
-  }
+  for (const Command& command : commands)
+    out << "  " << command.usage << "\n      " << command.purpose << '\n';
   out << "\nTables are written with tabs between the cells and a header line. Exit code: 0 done, "
          "1 refused, 2 wrong usage.\n";
 }
