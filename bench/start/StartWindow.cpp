@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <QTimer>
 
+#include "app/Screens.h"
 #include "print/SystemPrinter.h"
 #include "shell/Application.h"
 #include "shell/Desktop.h"
@@ -24,7 +25,8 @@ int main(int argc, char** argv) {
   SystemPrinter printer(person, store);
   const CSError::Display showError = ErrorDialog(clipboard);
   StartUp startUp(store, showError);
-  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp);
+  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp,
+                    AllScreens());
   window.Form_Load(application.arguments().value(1));
   window.ShowAsLeft();
   QTimer::singleShot(0, &application, [&] {

@@ -10,6 +10,7 @@
 #include "app/DemoHands.h"
 #include "app/Dice.h"
 #include "app/PitchedGame.h"
+#include "app/Screens.h"
 #include "controls/GridEX.h"
 #include "shell/Application.h"
 #include "shell/Desktop.h"
@@ -164,7 +165,7 @@ int Play(const QString& database, DemoFolder& folder) {
   static_cast<Application*>(qApp)->SetErrorDisplay(showError);
   const Surroundings surroundings{person, clock, clipboard, browser, store, printer, showError};
   StartUp startUp(store, showError);
-  frmStartUp window(surroundings, startUp);
+  frmStartUp window(surroundings, startUp, AllScreens());
   window.Form_Load(database);
   window.resize(LaptopWindow);
   window.show();

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "app/Screens.h"
 #include "print/SystemPrinter.h"
 #include "shell/Application.h"
 #include "shell/Desktop.h"
@@ -27,7 +28,8 @@ int OpenWindow(tavrelin::Application& application, const QString& database) {
   const CSError::Display showError = ErrorDialog(clipboard);
   application.SetErrorDisplay(showError);
   StartUp startUp(store, showError);
-  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp);
+  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp,
+                    AllScreens());
   window.Form_Load(database);
   window.ShowAsLeft();
   const int result = application.exec();

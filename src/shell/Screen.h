@@ -98,4 +98,7 @@ class Screen : public QWidget {
   MessageBar* stsInfo_;
 };
 
+/// Makes one screen; the parent owns it.
+using MakeScreen = std::function<Screen*(const Surroundings&, QWidget* parent)>;
+
 }  // namespace tavrelin

@@ -4,7 +4,6 @@
 #include <QUrl>
 
 #include "shell/Screen.h"
-#include "shell/Screens.h"
 
 namespace tavrelin {
 
@@ -21,9 +20,10 @@ class frmStartUp : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// All of `surroundings` and `startUp` must outlive the window.
-  frmStartUp(const Surroundings& surroundings, StartUp& startUp,
-             const QList<MakeScreen>& screens = AllScreens(), QWidget* parent = nullptr);
+  /// `screens` are made in their order. All of `surroundings` and `startUp` must outlive the
+  /// window.
+  frmStartUp(const Surroundings& surroundings, StartUp& startUp, const QList<MakeScreen>& screens,
+             QWidget* parent = nullptr);
   ~frmStartUp() override;
 
   /// Starts the application up: chooses the database and brings it up to date. `commandLine` is a

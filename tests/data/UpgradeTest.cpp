@@ -239,6 +239,28 @@ TEST_F(UpgradeTest, AnyManOfTheNewDivisionKeepsTheRecodeFromRunning) {
   EXPECT_EQ(PlainDatabase(file).Content(), before);
 }
 
+TEST_F(UpgradeTest, APlayerWithoutAStateBelongsToTheWholeCountry) {
+  DeliverClubFile(file);
+  PlainDatabase(file).Run(
+      "INSERT INTO Players (PlayerID, State) VALUES ('ONE', NULL), ('TWO', 'TX'), ('SIX', '')");
+  Upgrade();
+  EXPECT_TRUE(shown.isEmpty());
+  EXPECT_EQ(PlainDatabase(file).Cell("SELECT group_concat(State) FROM Players"), "US,TX,");
+}
+
+TEST_F(UpgradeTest, ThePromptThatIsOneCharacterOverItsColumnIsInsertedWhole) {
+  MakeOldClub(file, 6);
+  Upgrade();
+  EXPECT_TRUE(shown.isEmpty());
+  PlainDatabase db(file);
+  EXPECT_EQ(db.Cell("SELECT type FROM pragma_table_info('SystemSettings') WHERE name = "
+                    "'PromptValue'"),
+            "CHAR(50)");
+  EXPECT_EQ(db.Rows("SELECT PromptValue, length(PromptValue), SettingValue FROM SystemSettings "
+                    "WHERE SettingID = 5")[0],
+            (QStringList{"Record handicaps weekly when entering league scores", "51", "N"}));
+}
+
 TEST_F(UpgradeTest, AnEmptyRosterIsRecodedAndStamped) {
   MakeOldClub(file, 26);
   PlainDatabase(file).Run("DELETE FROM Players");

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "app/Screens.h"
 #include "controls/BarButton.h"
 #include "controls/ButtonBar.h"
 #include "shell/HelpDesk.h"
