@@ -13,13 +13,14 @@ bool IsBlank(const Value& value) {
   return value.Trimmed().isEmpty();
 }
 
+// Shoes are counted whole: a third of a shoe would be stored as none.
 bool HasShoesAndRingers(const RowValues& row) {
   const Value shoes = row.value("Shoes");
-  return IsNumeric(shoes) && CDbl(shoes) != 0 && IsNumeric(row.value("Ringers"));
+  return IsNumeric(shoes) && RoundHalfEven(CDbl(shoes)) != 0 && IsNumeric(row.value("Ringers"));
 }
 
 bool IsInHalves(const Value& value) {
-  if (!IsNumeric(value)) return false;
+  if (!IsInt(value)) return false;
   const double tenths = std::fmod(RoundHalfEven(CDbl(value) * 10), 10);
   return tenths == 0 || tenths == 5;
 }
@@ -46,8 +47,8 @@ RowCheck CheckPlayerScore(const RowValues& row, bool newRow, Recordset& scores) 
   if (!HasShoesAndRingers(row)) return check.Drop();
   if (!IsInHalves(row.value("Wins"))) return check.Refuse("Invalid Wins.");
   if (!IsInHalves(row.value("Losses"))) return check.Refuse("Invalid Losses.");
-  if (!IsNumeric(row.value("Place"))) return check.Refuse("Invalid Place.");
-  if (!IsNumeric(row.value("HiGame"))) return check.Refuse("Invalid High Game.");
+  if (!IsInt(row.value("Place"))) return check.Refuse("Invalid Place.");
+  if (!IsInt(row.value("HiGame"))) return check.Refuse("Invalid High Game.");
   if (newRow && IsDuplicate(row, scores)) {
     return check.Refuse("Duplicate sanction number for given player");
   }

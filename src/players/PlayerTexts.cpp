@@ -44,4 +44,8 @@ QString StoredTelephone(const QString& typed) {
   return digits;
 }
 
+QString NotOnRoster() {
+  return QStringLiteral(" (not on the roster)");
+}
+
 }  // namespace tavrelin

@@ -36,14 +36,15 @@ QList<GridColumn> PlayerColumns() {
           {.field = "Category", .visible = false},
           {.caption = "First",
            .field = "FirstName",
-           .width = 1200,
+           .width = 950,
            .position = 4,
            .fill = true,
            .spokenCaption = "First name"},
           {.caption = "Last",
            .field = "LastName",
-           .width = 1500,
+           .width = 1100,
            .position = 3,
+           .fill = true,
            .spokenCaption = "Last name"}};
 }
 
@@ -104,7 +105,8 @@ QList<GridColumn> ScoreColumns() {
 uctScores::uctScores(const Surroundings& surroundings, QWidget* parent)
     : Screen("uctScores", "Player Stats", surroundings, parent),
       GridEX1_(new GridEX("GridEX1", "Players", Guard(), this)),
-      GridEX2_(new GridEX("GridEX2", "Tournament scores", Guard(), this)),
+      GridEX2_(new GridEX("GridEX2", "Tournament Scores", Guard(), this)),
+      Label2_(NewHeading("Label2", "Tournament Scores", GridEX2_, this)),
       search_(new TypedSearch(*GridEX1_, SearchPause, [](const QString& typed) {
         return TypedSearch::ByStart("LastName", typed);
       })) {
@@ -119,30 +121,41 @@ void uctScores::UserControl_Initialize() {
   GridEX1_->SetColumns(PlayerColumns());
   GridEX1_->SetAllowEdit(false);
   GridEX1_->SetRowMode(true);
-  GridEX1_->SetEmptyText("No players yet. They are entered on the Profile page.");
+  GridEX1_->SetEmptyText("No players on the roster yet. Add them under Players / Profile.");
   GridEX2_->SetColumns(ScoreColumns());
   GridEX2_->SetAllowAddNew(true);
   GridEX2_->SetAllowDelete(true);
-  GridEX2_->SetEmptyText("Double-click a player to see the tournaments pitched.");
 }
 
 void uctScores::ConnectEvents() {
   GridEX1_->on.KeyDown = [this](GridKeyDown& event) { GridEX1_KeyDown(event); };
   GridEX1_->on.DblClick = [this] { PlayerSelected(); };
-  GridEX2_->on.KeyDown = [this](GridKeyDown&) { stsInfo()->ClearMessage(); };
+  GridEX1_->on.ColumnHeaderClick = [this](const QString& column) {
+    GridEX1_ColumnHeaderClick(column);
+  };
+  GridEX2_->on.KeyDown = [this](GridKeyDown& event) { GridEX2_KeyDown(event); };
+  GridEX2_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
+  GridEX2_->on.ColumnHeaderClick = [this](const QString& column) {
+    GridEX2_ColumnHeaderClick(column);
+  };
+  GridEX2_->on.RowColChange = [this](int row, int col) { GridEX2_RowColChange(row, col); };
   GridEX2_->on.AfterColEdit = [this](GridColEdit& event) { GridEX2_AfterColEdit(event); };
   GridEX2_->on.BeforeUpdate = [this](GridUpdate& update) { GridEX2_BeforeUpdate(update); };
-  GridEX2_->on.BeforeDelete = [this](GridDelete& event) {
-    event.cancel =
-        !around().person.Confirm("Confirm Deletion", "Delete selected tournament score?");
-  };
+  GridEX2_->on.BeforeDelete = [this](GridDelete& event) { GridEX2_BeforeDelete(event); };
 }
 
 void uctScores::LayOut() {
   auto* grids = new QHBoxLayout;
   grids->setSpacing(16);
-  grids->addWidget(GridEX1_, 3);
-  grids->addWidget(GridEX2_, 9);
+  const auto add = [grids](QLabel* heading, GridEX* grid, int stretch) {
+    auto* half = new QVBoxLayout;
+    half->setSpacing(8);
+    half->addWidget(heading);
+    half->addWidget(grid, 1);
+    grids->addLayout(half, stretch);
+  };
+  add(NewHeading("Label1", "Players", GridEX1_, this), GridEX1_, 3);
+  add(Label2_, GridEX2_, 9);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 8, 16, 0);
   column->setSpacing(8);
@@ -154,6 +167,8 @@ void uctScores::LayOut() {
 void uctScores::UserControl_Show() {
   data_ = std::make_unique<Data>();
   data_->connection.Open(ConnectString);
+  Label2_->setText("Tournament Scores");
+  GridEX2_->SetEmptyText("Press Enter on a player, or double-click one, to see the tournaments.");
   LoadPlayers();
   LoadSanctions();
   GridEX1_->setFocus();
@@ -186,6 +201,7 @@ void uctScores::UserControl_Hide() {
   GridEX2_->CommitRow();
   search_->Clear();
   for (GridEX* grid : {GridEX1_, GridEX2_}) grid->SetRecordset(nullptr);
+  for (const char* list : {"PlayerID", "SanctionID"}) GridEX2_->ClearValueList(list);
   data_.reset();
 }
 
@@ -202,7 +218,10 @@ void uctScores::PlayerSelected() {
   data_->keys = data_->scores.Clone();
   GridEX2_->SetDefault("PlayerID", playerID);
   GridEX2_->SetDefault("Category", GridEX1_->Value("Category"));
+  GridEX2_->SetEmptyText("No tournaments yet. Type the first one in the top row.");
   GridEX2_->SetRecordset(&data_->scores);
+  Label2_->setText("Tournament Scores: " + GridEX1_->Value("LastName").ToText() + u' ' +
+                   GridEX1_->Value("FirstName").ToText());
 }
 
 void uctScores::GridEX1_KeyDown(GridKeyDown& event) {
@@ -215,6 +234,47 @@ void uctScores::GridEX1_KeyDown(GridKeyDown& event) {
   }
 }
 
+void uctScores::GridEX1_ColumnHeaderClick(const QString& column) {
+  stsInfo()->ClearMessage();
+  search_->Clear();
+  GridEX1_->SetSortKeys({{column, GridEX1_->NextOrder(column)}});
+}
+
+void uctScores::GridEX2_KeyDown(GridKeyDown& event) {
+  stsInfo()->ClearMessage();
+  if (event.key == Qt::Key_Insert) {
+    event.swallow = true;
+    if (GridEX2_->MoveToNewRow()) GridEX2_->SetCol("SanctionID");
+  } else if (event.key == Qt::Key_Escape) {
+    event.swallow = true;
+    GridEX1_->setFocus();
+  }
+}
+
+// The percent is the query's own figure: rows typed since are read again before they are sorted.
+void uctScores::GridEX2_ColumnHeaderClick(const QString& column) {
+  stsInfo()->ClearMessage();
+  if (data_->scores.IsOpen()) data_->scores.Requery();
+  GridEX2_->SetSortKeys({{column, GridEX2_->NextOrder(column)}});
+}
+
+// A new row begins with its tournament, also the one that follows on a row just saved.
+void uctScores::GridEX2_RowColChange(int lastRow, int lastCol) {
+  if (!GridEX2_->IsNewRow()) return;
+  FillInPlayer();
+  const bool arrived = lastRow != -1 && GridEX2_->Col() < 1;
+  const bool fresh = lastRow == -1 && lastCol == GridEX2_->Col();
+  if (arrived || fresh) GridEX2_->SetCol("SanctionID");
+}
+
+// What was emptied on a new row is the chosen player's again.
+void uctScores::FillInPlayer() {
+  for (const char* column : {"PlayerID", "Category"}) {
+    if (!GridEX2_->Value(column).Trimmed().isEmpty()) continue;
+    GridEX2_->SetValue(column, GridEX2_->Default(column));
+  }
+}
+
 void uctScores::GridEX2_AfterColEdit(GridColEdit& event) {
   if (event.column == "SanctionID") {
     GridEX2_->SetValue("SanctionID", CleanSanction(GridEX2_->Value("SanctionID").ToText()));
@@ -224,7 +284,13 @@ void uctScores::GridEX2_AfterColEdit(GridColEdit& event) {
 }
 
 void uctScores::GridEX2_BeforeUpdate(GridUpdate& update) {
+  if (update.newRow) FillInPlayer();
   Settle(CheckPlayerScore(CurrentRow(*GridEX2_), update.newRow, data_->keys), *GridEX2_, update);
+}
+
+void uctScores::GridEX2_BeforeDelete(GridDelete& event) {
+  stsInfo()->ClearMessage();
+  event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected tournament score?");
 }
 
 }  // namespace tavrelin

@@ -4,10 +4,13 @@
 
 #include "shell/Screen.h"
 
+class QLabel;
+
 namespace tavrelin {
 
 class TypedSearch;
 struct GridColEdit;
+struct GridDelete;
 struct GridKeyDown;
 
 /// Players / Stats: the players at the left, and the tournament history of the chosen one at the
@@ -30,13 +33,20 @@ class uctScores : public Screen {
   void LoadPlayers();
   void LoadSanctions();
   void PlayerSelected();
+  void FillInPlayer();
 
   void GridEX1_KeyDown(GridKeyDown& event);
+  void GridEX1_ColumnHeaderClick(const QString& column);
+  void GridEX2_KeyDown(GridKeyDown& event);
+  void GridEX2_ColumnHeaderClick(const QString& column);
+  void GridEX2_RowColChange(int lastRow, int lastCol);
   void GridEX2_AfterColEdit(GridColEdit& event);
   void GridEX2_BeforeUpdate(GridUpdate& update);
+  void GridEX2_BeforeDelete(GridDelete& event);
 
   GridEX* GridEX1_;  ///< players
   GridEX* GridEX2_;  ///< history
+  QLabel* Label2_;   ///< says whose history that is
   TypedSearch* search_;
   struct Data;  ///< what lives from show to hide
   std::unique_ptr<Data> data_;

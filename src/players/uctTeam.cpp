@@ -1,13 +1,16 @@
 #include "players/uctTeam.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include "controls/GridEX.h"
+#include "controls/GridRow.h"
 #include "controls/TypedSearch.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
+#include "players/PlayerList.h"
+#include "players/PlayerTexts.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
@@ -17,7 +20,8 @@ namespace tavrelin {
 struct uctTeam::Data {
   Connection connection;
   Recordset teams, pool, members;
-  Value teamID;  ///< of the chosen team; null before the first choice
+  ValueList names;  ///< of all players, by their numbers
+  Value teamID;     ///< of the chosen team; null before the first choice
 };
 
 namespace {
@@ -27,19 +31,23 @@ constexpr int SearchPause = 1000;  // milliseconds
 QList<GridColumn> TeamColumns() {
   return {
       {.caption = "TeamID", .field = "TeamID", .width = 0, .selectable = false, .editable = false},
-      {.caption = "Team", .field = "Team", .width = 3000, .maxLength = 50, .fill = true}};
+      {.caption = "Team", .field = "Team", .width = 2700, .maxLength = 50, .fill = true}};
 }
 
 QList<GridColumn> PoolColumns() {
   return {{.caption = "PlayerID", .field = "PlayerID", .visible = false},
-          {.caption = "Name", .field = "PlayerName", .width = 2700, .fill = true},
-          {.caption = "City", .field = "City", .width = 1800},
-          {.caption = "St", .field = "State", .width = 600, .spokenCaption = "State"}};
+          {.caption = "Name", .field = "PlayerName", .width = 2000, .fill = true},
+          {.caption = "City", .field = "City", .width = 1300},
+          {.caption = "St", .field = "State", .width = 500, .spokenCaption = "State"}};
 }
 
 QList<GridColumn> MemberColumns() {
   return {{.caption = "TeamID", .field = "TeamID", .width = 0, .selectable = false},
-          {.caption = "Team Player", .field = "PlayerID", .width = 2700, .fill = true}};
+          {.caption = "Team Player",
+           .field = "PlayerID",
+           .width = 2700,
+           .fetchData = true,
+           .fill = true}};
 }
 
 bool IsEnter(const GridKeyDown& event) {
@@ -52,7 +60,8 @@ uctTeam::uctTeam(const Surroundings& surroundings, QWidget* parent)
     : Screen("uctTeam", " Setup Teams", surroundings, parent),
       GridEX1_(new GridEX("GridEX1", "Teams", Guard(), this)),
       GridEX2_(new GridEX("GridEX2", "Player List", Guard(), this)),
-      GridEX3_(new GridEX("GridEX3", "Team Players", Guard(), this)) {
+      GridEX3_(new GridEX("GridEX3", "Team Players", Guard(), this)),
+      Label3_(NewHeading("Label3", "Team Players", GridEX3_, this)) {
   BuildTeams();
   BuildPool();
   BuildMembers();
@@ -74,36 +83,21 @@ void uctTeam::BuildTeams() {
   GridEX1_->SetAllowDelete(true);
   GridEX1_->SetEmptyText("No teams yet. Type the name of the first one in the top row.");
   TypedSearch* search = SearchOf(*GridEX1_, "Team");
-  GridEX1_->on.KeyDown = [this, search](GridKeyDown& event) {
-    stsInfo()->ClearMessage();
-    if (IsEnter(event) && GridEX1_->Col() < 1 && GridEX1_->Row() > 0) {
-      event.swallow = true;
-      ListSelected();
-    } else {
-      search->KeyDown(event);
-    }
-  };
+  GridEX1_->on.KeyDown = [this, search](GridKeyDown& event) { GridEX1_KeyDown(event, *search); };
+  GridEX1_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
   GridEX1_->on.DblClick = [this] { ListSelected(); };
   GridEX1_->on.BeforeUpdate = [this](GridUpdate& update) { GridEX1_BeforeUpdate(update); };
   GridEX1_->on.AfterUpdate = [this] { GridEX1_AfterUpdate(); };
-  GridEX1_->on.BeforeDelete = [this](GridDelete& event) { event.cancel = !ConfirmDeletion(); };
+  GridEX1_->on.BeforeDelete = [this](GridDelete& event) { GridEX1_BeforeDelete(event); };
 }
 
 void uctTeam::BuildPool() {
   GridEX2_->SetColumns(PoolColumns());
   GridEX2_->SetAllowEdit(false);
   GridEX2_->SetRowMode(true);
-  GridEX2_->SetEmptyText("No players yet. They are entered on the Profile page.");
+  GridEX2_->SetEmptyText("No players on the roster yet. Add them under Players / Profile.");
   TypedSearch* search = SearchOf(*GridEX2_, "PlayerName");
-  GridEX2_->on.KeyDown = [this, search](GridKeyDown& event) {
-    stsInfo()->ClearMessage();
-    if (IsEnter(event)) {
-      event.swallow = true;
-      PlayerSelected();
-    } else {
-      search->KeyDown(event);
-    }
-  };
+  GridEX2_->on.KeyDown = [this, search](GridKeyDown& event) { GridEX2_KeyDown(event, *search); };
   GridEX2_->on.DblClick = [this] { PlayerSelected(); };
 }
 
@@ -112,26 +106,26 @@ void uctTeam::BuildMembers() {
   GridEX3_->SetAllowEdit(false);
   GridEX3_->SetAllowDelete(true);
   GridEX3_->SetRowMode(true);
-  GridEX3_->SetEmptyText("Double-click a team to see its players, then a player to add him.");
   TypedSearch* search = SearchOf(*GridEX3_, "PlayerID");
-  GridEX3_->on.KeyDown = [this, search](GridKeyDown& event) {
-    stsInfo()->ClearMessage();
-    search->KeyDown(event);
-  };
+  GridEX3_->on.KeyDown = [this, search](GridKeyDown& event) { GridEX3_KeyDown(event, *search); };
+  GridEX3_->on.FetchData = [this](GridFetchData& event) { GridEX3_FetchData(event); };
 }
 
 void uctTeam::LayOut() {
-  auto* grids = new QGridLayout;
-  grids->setHorizontalSpacing(16);
-  grids->setVerticalSpacing(8);
-  grids->addWidget(NewHeading("Label2", "Teams", GridEX1_, this), 0, 0);
-  grids->addWidget(GridEX1_, 1, 0);
-  grids->addWidget(NewHeading("Label3", "Team Players", GridEX3_, this), 2, 0);
-  grids->addWidget(GridEX3_, 3, 0);
-  grids->addWidget(NewHeading("Label1", "Player List", GridEX2_, this), 0, 1);
-  grids->addWidget(GridEX2_, 1, 1, 3, 1);
-  grids->setColumnStretch(0, 1);
-  grids->setColumnStretch(1, 1);
+  auto* grids = new QHBoxLayout;
+  grids->setSpacing(16);
+  const auto add = [grids](QLabel* heading, GridEX* grid, int stretch) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(8);
+    column->addWidget(heading);
+    column->addWidget(grid, 1);
+    grids->addLayout(column, stretch);
+  };
+  add(NewHeading("Label2", "Teams", GridEX1_, this), GridEX1_, 3);
+  add(NewHeading("Label1", "Player List", GridEX2_, this), GridEX2_, 4);
+  add(Label3_, GridEX3_, 3);
+  // A long name of a team must not push the grids about.
+  Label3_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 8, 16, 0);
   column->setSpacing(8);
@@ -143,6 +137,7 @@ void uctTeam::LayOut() {
 void uctTeam::UserControl_Show() {
   data_ = std::make_unique<Data>();
   data_->connection.Open(ConnectString);
+  ForgetTeam();
   LoadPool();
   data_->teams.Open("SELECT * FROM Teams ORDER BY Team", data_->connection,
                     Recordset::Lock::Optimistic);
@@ -155,11 +150,10 @@ void uctTeam::LoadPool() {
       "SELECT PlayerID, RTRIM(LastName) + ', ' + RTRIM(FirstName) AS PlayerName, City, State "
       "FROM Players ORDER BY 2",
       data_->connection);
-  ValueList names;
   for (int position = 1; position <= data_->pool.RecordCount(); ++position) {
-    names.Add(data_->pool.CellAt(position, 0), data_->pool.CellAt(position, 1).ToText());
+    data_->names.Add(data_->pool.CellAt(position, 0), data_->pool.CellAt(position, 1).ToText());
   }
-  GridEX3_->SetValueList("PlayerID", names);
+  GridEX3_->SetValueList("PlayerID", data_->names);
   GridEX2_->SetRecordset(&data_->pool);
 }
 
@@ -167,54 +161,108 @@ void uctTeam::UserControl_Hide() {
   GridEX1_->CommitRow();
   for (TypedSearch* search : searches_) search->Clear();
   for (GridEX* grid : {GridEX1_, GridEX2_, GridEX3_}) grid->SetRecordset(nullptr);
+  GridEX3_->ClearValueList("PlayerID");
   data_.reset();
 }
 
-// A team without a name is not worth a word.
+// Enter goes on to the players: whoever names a team wants to fill it.
+void uctTeam::GridEX1_KeyDown(GridKeyDown& event, TypedSearch& search) {
+  stsInfo()->ClearMessage();
+  if (IsEnter(event) && GridEX1_->Row() > 0) {
+    event.swallow = true;
+    ListSelected();
+    if (!GridEX1_->DataChanged()) GridEX2_->setFocus();
+  } else {
+    search.KeyDown(event);
+  }
+}
+
 void uctTeam::GridEX1_BeforeUpdate(GridUpdate& update) {
-  if (GridEX1_->Value("Team").Trimmed().isEmpty()) update.dataChanged = false;
+  Settle(CheckTeam(CurrentRow(*GridEX1_)), *GridEX1_, update);
 }
 
 // The rows are read again, so that the number the file gave is known and the team takes its place.
 void uctTeam::GridEX1_AfterUpdate() {
+  const bool chosen = !data_->teamID.IsNull() && GridEX1_->Value("TeamID") == data_->teamID;
+  if (chosen) NameTeam(GridEX1_->Value("Team").ToText());
   data_->teams.Requery();
   GridEX1_->Rebind();
 }
 
-bool uctTeam::ConfirmDeletion() {
-  return around().person.Confirm(
+void uctTeam::GridEX1_BeforeDelete(GridDelete& event) {
+  stsInfo()->ClearMessage();
+  event.cancel = !around().person.Confirm(
       "Confirm Deletion",
       "Deleting teams is not recommended.  It may result in invalid \r\nleague scores and "
       "tournament results.  Continue? ");
+  if (!event.cancel && GridEX1_->Value("TeamID") == data_->teamID) ForgetTeam();
+}
+
+void uctTeam::GridEX2_KeyDown(GridKeyDown& event, TypedSearch& search) {
+  stsInfo()->ClearMessage();
+  if (IsEnter(event)) {
+    event.swallow = true;
+    PlayerSelected();
+  } else if (event.key == Qt::Key_Escape) {
+    event.swallow = true;
+    GridEX1_->setFocus();
+  } else {
+    search.KeyDown(event);
+  }
+}
+
+void uctTeam::GridEX3_KeyDown(GridKeyDown& event, TypedSearch& search) {
+  stsInfo()->ClearMessage();
+  if (event.key == Qt::Key_Escape) {
+    event.swallow = true;
+    GridEX1_->setFocus();
+  } else {
+    search.KeyDown(event);
+  }
+}
+
+void uctTeam::GridEX3_FetchData(GridFetchData& event) {
+  if (data_->names.IndexOf(event.value) < 0) event.text += NotOnRoster();
 }
 
 void uctTeam::ListSelected() {
-  if (GridEX1_->Row() < 1) return;
-  GridEX3_->SetRecordset(nullptr);
-  data_->teamID = GridEX1_->Value("TeamID");
+  if (GridEX1_->Row() < 1 || !GridEX1_->CommitRow()) return;
+  ForgetTeam();
+  const Value teamID = GridEX1_->Value("TeamID");
   data_->members.Open("SELECT TeamID, PlayerID FROM TeamPlayers WHERE TeamID = ? ORDER BY PlayerID",
-                      data_->connection, Recordset::Lock::Optimistic, {data_->teamID});
+                      data_->connection, Recordset::Lock::Optimistic, {teamID});
+  data_->teamID = teamID;
+  GridEX3_->SetEmptyText(
+      "Nobody plays on this team yet. Press Enter in the player list to add a player.");
   GridEX3_->SetRecordset(&data_->members);
-}
-
-bool uctTeam::IsMember(const QString& playerID) const {
-  Recordset members = data_->members.Clone();
-  for (; !members.AtEnd(); members.MoveNext()) {
-    if (members["PlayerID"].Trimmed() == playerID) return true;
-  }
-  return false;
+  NameTeam(GridEX1_->Value("Team").ToText());
 }
 
 void uctTeam::PlayerSelected() {
-  if (GridEX2_->Row() < 1 || !data_->members.IsOpen()) return;
-  const Value playerID = GridEX2_->Value("PlayerID");
-  if (IsMember(playerID.Trimmed())) return Refuse("Player already in list");
-  data_->members.AddNew();
-  data_->members.Set("TeamID", data_->teamID);
-  data_->members.Set("PlayerID", playerID);
-  data_->members.Update();
-  data_->members.Requery();
+  stsInfo()->ClearMessage();
+  if (GridEX2_->Row() < 1) return;
+  if (data_->teamID.IsNull()) return Refuse("Choose a team first: press Enter on it.");
+  const QString refusal =
+      AddToPlayerList(data_->members, "TeamID", data_->teamID, GridEX2_->Value("PlayerID"));
+  if (!refusal.isEmpty()) return Refuse(refusal);
+  const auto added = data_->members.CurrentBookmark();
   GridEX3_->Rebind();
+  GridEX3_->MoveToBookmark(added);
+}
+
+void uctTeam::ForgetTeam() {
+  GridEX3_->SetRecordset(nullptr);
+  GridEX3_->SetEmptyText("Press Enter on a team, or double-click it, to see its players.");
+  data_->members.Close();
+  data_->teamID = {};
+  NameTeam({});
+}
+
+void uctTeam::NameTeam(const QString& team) {
+  const QString heading =
+      team.isEmpty() ? QString("Team Players") : "Team Players: " + team.simplified();
+  Label3_->setText(Label3_->fontMetrics().elidedText(heading, Qt::ElideRight, GridEX3_->width()));
+  Label3_->setToolTip(team);
 }
 
 }  // namespace tavrelin

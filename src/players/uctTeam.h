@@ -4,12 +4,17 @@
 
 #include "shell/Screen.h"
 
+class QLabel;
+
 namespace tavrelin {
 
 class TypedSearch;
+struct GridDelete;
+struct GridFetchData;
+struct GridKeyDown;
 
-/// Players / Teams: the named teams, the members of the chosen one, and all players to draw from. A
-/// double click (or Enter) on a team shows its members; one on a player puts him on the team.
+/// Players / Teams: the named teams, all players to draw from, and who plays on the chosen team. A
+/// double click (or Enter) on a team shows its players; one on a player puts him on the team.
 class uctTeam : public Screen {
   Q_OBJECT
 
@@ -29,16 +34,22 @@ class uctTeam : public Screen {
   TypedSearch* SearchOf(GridEX& grid, const QString& field);
   void LoadPool();
 
+  void GridEX1_KeyDown(GridKeyDown& event, TypedSearch& search);
   void GridEX1_BeforeUpdate(GridUpdate& update);
   void GridEX1_AfterUpdate();
-  bool ConfirmDeletion();
+  void GridEX1_BeforeDelete(GridDelete& event);
+  void GridEX2_KeyDown(GridKeyDown& event, TypedSearch& search);
+  void GridEX3_KeyDown(GridKeyDown& event, TypedSearch& search);
+  void GridEX3_FetchData(GridFetchData& event);
   void ListSelected();
   void PlayerSelected();
-  bool IsMember(const QString& playerID) const;
+  void ForgetTeam();
+  void NameTeam(const QString& team);
 
   GridEX* GridEX1_;  ///< teams
   GridEX* GridEX2_;  ///< all players
-  GridEX* GridEX3_;  ///< members of the chosen team
+  GridEX* GridEX3_;  ///< players of the chosen team
+  QLabel* Label3_;   ///< says which team that is
   QList<TypedSearch*> searches_;
   struct Data;  ///< what lives from show to hide
   std::unique_ptr<Data> data_;

@@ -8,6 +8,7 @@
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "data/Connection.h"
+#include "players/PlayerTexts.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
@@ -95,7 +96,7 @@ EntrySideKind SinglesKind() {
       "SELECT p.PlayerID, RTRIM(p.LastName) + ', ' + p.FirstName, p.Category FROM "
       "TournamentEntrants e, Players p "
       "WHERE e.SanctionID = ? AND e.PlayerID = p.PlayerID";
-  kind.missingText = " (not on the roster)";
+  kind.missingText = NotOnRoster();
   kind.searchField = "LastName";
   kind.playFormat = "S";
   kind.listEmptyText = "No players on the roster yet. Add them under Players / Profile.";

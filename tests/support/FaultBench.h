@@ -37,6 +37,12 @@ class FaultBench {
     return Strike(QStringLiteral("%1:signal=SIGKILL:when=%2").arg(call).arg(n), call, command);
   }
 
+  /// Fails the n-th call of `call` and no other, as when room is made on a full disk.
+  Outcome FailAt(int n, const QString& error, const QStringList& command,
+                 const QString& call = "pwrite64") const {
+    return Strike(QStringLiteral("%1:error=%2:when=%3").arg(call, error).arg(n), call, command);
+  }
+
   /// Fails the n-th and every further call of `call` with `error` (ENOSPC, EIO...).
   Outcome FailFrom(int n, const QString& error, const QStringList& command,
                    const QString& call = "pwrite64") const {

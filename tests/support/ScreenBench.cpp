@@ -24,17 +24,21 @@ namespace {
 constexpr QSize ScreenSize(1150, 640);
 
 /// A new club's file, delivered once a process and copied after that.
-void CopyNewClub(const QString& path) {
+QString CopyNewClub(const QString& path) {
   static const QTemporaryDir folder;
   static const QString original = folder.filePath(QStringLiteral("new.mdb"));
   if (!QFile::exists(original)) DeliverClubFile(original);
-  ASSERT_TRUE(QFile::copy(original, path));
+  EXPECT_TRUE(QFile::copy(original, path));
+  return path;
 }
 
 }  // namespace
 
-ScreenBench::ScreenBench() : store_(std::make_unique<Store>(PathOf(QStringLiteral("store.ini")))) {
-  CopyNewClub(ClubFile());
+ScreenBench::ScreenBench() : ScreenBench(QString()) {}
+
+ScreenBench::ScreenBench(const QString& clubFile)
+    : clubFile_(clubFile.isEmpty() ? CopyNewClub(PathOf(QStringLiteral("club.mdb"))) : clubFile),
+      store_(std::make_unique<Store>(PathOf(QStringLiteral("store.ini")))) {
   DatabasePath = ClubFile();
   ConnectString = ConnectStringFor(DatabasePath);
 }

@@ -22,6 +22,8 @@ namespace tavrelin {
 class ScreenBench {
  public:
   ScreenBench();
+  /// The same on a club file that is there already and stays.
+  explicit ScreenBench(const QString& clubFile);
   ~ScreenBench();
   ScreenBench(const ScreenBench&) = delete;
   ScreenBench& operator=(const ScreenBench&) = delete;
@@ -38,7 +40,7 @@ class ScreenBench {
   /// A path in the bench's own folder, which goes when the bench ends.
   QString PathOf(const QString& name) const { return folder_.filePath(name); }
   /// The club file of ConnectString.
-  QString ClubFile() const { return PathOf(QStringLiteral("club.mdb")); }
+  const QString& ClubFile() const { return clubFile_; }
 
   /// Makes a screen, the size it has on a 1366 by 768 laptop, and shows it. The bench owns it.
   template <class ScreenClass>
@@ -92,6 +94,7 @@ class ScreenBench {
   [[noreturn]] static void Fail(const QString& why);
 
   QTemporaryDir folder_;
+  QString clubFile_;
   std::unique_ptr<Store> store_;
   std::unique_ptr<QWidget> host_;
   Screen* screen_ = nullptr;
