@@ -529,6 +529,19 @@ TEST_F(uctPlayTimeResultsTest, ASheetThatTheOperatorWouldNotSaveIsNotReportedAsP
   EXPECT_EQ(bench.Message(), "");
 }
 
+TEST_F(uctPlayTimeResultsTest, FromTheResultsTabTheDirectorKeepsHisGame) {
+  MakePaired(4);
+  Show();
+  bench.Click("cmdLoad");
+  Scores().SetRow(3);
+  OpenResults();
+  Check("chkStandings");
+  bench.Click("cmdPrintResults");
+  EXPECT_EQ(bench.FocusName(), "cmdPrintResults");
+  Tabs().setCurrentIndex(0);
+  EXPECT_EQ(Scores().Row(), 3);
+}
+
 TEST_F(uctPlayTimeResultsTest, WhereTheGamesCanBeSeenTheFirstOneGetsTheFocusAfterwards) {
   MakePaired(4);
   ShowResults();
