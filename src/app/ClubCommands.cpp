@@ -1,8 +1,14 @@
 #include "app/ClubCommands.h"
 
 #include <algorithm>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
 
 #include "app/SampleClub.h"
+#include "basic/PlatformPath.h"
+#include "data/Backup.h"
 #include "data/ClubCheck.h"
 #include "data/Connection.h"
 #include "data/Schema.h"
@@ -44,6 +50,12 @@ int Check(const QStringList& arguments, QTextStream& out, QTextStream& err) {
   return exits::Refused;
 }
 
+int BackUp(const QStringList& arguments, QTextStream& out, QTextStream&) {
+  const QString file = QFileInfo(PlatformPath(arguments[0])).absoluteFilePath();
+  out << QDir::toNativeSeparators(BackUpClub(file, QDateTime::currentDateTime())) << '\n';
+  return exits::Done;
+}
+
 int Sample(const QStringList& arguments, QTextStream&, QTextStream&) {
   MakeSampleClub(arguments[0]);
   return exits::Done;
@@ -58,6 +70,10 @@ QList<Command> ClubCommands() {
       {QStringLiteral("check"), QStringLiteral("check FILE"),
        QStringLiteral("Looks a club file over without changing it; 1 when anything is wrong."), 1,
        1, Check},
+      {QStringLiteral("backup"), QStringLiteral("backup FILE"),
+       QStringLiteral("Copies a club file, open or not, to the Backups folder beside it and writes "
+                      "the copy's path; the last ten are kept."),
+       1, 1, BackUp},
       {QStringLiteral("sample"), QStringLiteral("sample FILE"),
        QStringLiteral("Makes a club file with invented players and tournaments to try things on."),
        1, 1, Sample},

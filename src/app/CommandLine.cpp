@@ -8,6 +8,7 @@
 #include "basic/Conversions.h"
 #include "basic/Error.h"
 #include "data/Connection.h"
+#include "data/DataSource.h"
 #include "data/Recordset.h"
 
 namespace tavrelin {
@@ -107,7 +108,7 @@ void WriteRecordset(QTextStream& out, const Recordset& rows, const QStringList& 
 }
 
 QString FileConnectString(const QString& file) {
-  return QStringLiteral("DBQ=%1;").arg(QFileInfo(PlatformPath(file)).absoluteFilePath());
+  return ConnectStringOfFile(QFileInfo(PlatformPath(file)).absoluteFilePath());
 }
 
 }  // namespace tavrelin

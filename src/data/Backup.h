@@ -1,11 +1,18 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
+#include <QList>
 #include <QString>
 
 struct sqlite3;
 
 namespace tavrelin {
+
+// Copies of a club's file, all made by SQLite from an open file, so that a window at work on it is
+// not disturbed, and read back and compared before they take their names. All paths are platform
+// paths. What cannot be done throws Error, a sentence for the operator, and leaves the club's file
+// as it was.
 
 /// Copies an open club file, as its last commit left it, to a new file at a platform path. The copy
 /// is read back and compared before it takes its name. Throws Error, with nothing left behind, when
@@ -16,5 +23,31 @@ void CopyClubFile(sqlite3* from, const QString& path);
 /// "Tavrelin.before-upgrade-2026-11-21.mdb", with "-2" and so on behind the date when there is one
 /// already. Returns its path.
 QString CopyBeforeUpgrade(sqlite3* from, const QString& file, const QDate& today);
+
+/// A backup in the folder "Backups" beside a club's file.
+struct ClubBackup {
+  QString path;
+  QDateTime made;   ///< local time, as its name tells it
+  qint64 size = 0;  ///< bytes
+};
+
+/// How many backups of one club's file are kept.
+inline constexpr int BackupsKept = 10;
+
+/// The backups of a club's file, the newest first. The file itself need not be there.
+QList<ClubBackup> BackupsOf(const QString& file);
+
+/// Makes a backup: "Backups/Tavrelin.2026-11-21_14-05-09.mdb" beside the file, which may be in use.
+/// Once it is verified and in its place, the oldest beyond the last ten go. Returns its path.
+QString BackUpClub(const QString& file, const QDateTime& now);
+
+/// Puts a backup in the place of the club's file, in one step: at every moment the place holds the
+/// old file or the restored one, whole. What it replaces is backed up first; a file too damaged for
+/// that is kept as it is, as "Backups/Tavrelin.damaged-2026-11-21.mdb". No connection of this
+/// process may be open. Refused while another program has the file open, and when the backup is not
+/// sound.
+///
+/// Returns where the replaced file is kept; empty when there was none.
+QString RestoreClub(const QString& file, const QString& backup, const QDateTime& now);
 
 }  // namespace tavrelin

@@ -86,6 +86,10 @@ QString FileOfSource(const QString& source) {
 
 }  // namespace
 
+QString ConnectStringOfFile(const QString& path) {
+  return QStringLiteral("DBQ=%1;Driver={Microsoft Access Driver (*.mdb)};").arg(path);
+}
+
 QString FileOfConnectString(const QString& connectString) {
   const QString path = ValueIn(connectString, QStringLiteral("DBQ="));
   if (!path.isEmpty()) return PlatformPath(path);

@@ -13,6 +13,7 @@
 #include "data/ConnectionParts.h"
 #include "data/DataSource.h"
 #include "data/Schema.h"
+#include "data/SqlFile.h"
 #include "data/SqlFunctions.h"
 #include "data/TableRebuild.h"
 
@@ -105,21 +106,6 @@ sqlite3* OpenHandle(const QString& name) {
   if (rc == SQLITE_OK) return handle;
   sqlite3_close(handle);
   RefuseFile(name, QStringLiteral("cannot be opened: %1.").arg(QLatin1String(sqlite3_errstr(rc))));
-}
-
-void CopyAllPages(sqlite3* from, sqlite3* to) {
-  sqlite3_backup* backup = sqlite3_backup_init(to, "main", from, "main");
-  if (!backup) ThrowDatabaseError(to);
-  int waited = 0;
-  int rc = SQLITE_OK;
-  while ((rc = sqlite3_backup_step(backup, -1)) == SQLITE_BUSY && waited < kWaitMilliseconds) {
-    waited += sqlite3_sleep(50);
-  }
-  if (sqlite3_backup_finish(backup) != SQLITE_OK) ThrowDatabaseError(to);
-  if (rc == SQLITE_BUSY) {
-    throw Error(errors::FileUnusable,
-                QStringLiteral("The file is being written by another program. Try again."));
-  }
 }
 
 }  // namespace

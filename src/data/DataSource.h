@@ -8,4 +8,7 @@ namespace tavrelin {
 /// $ODBCINI (else ~/.odbc.ini) and /etc/odbc.ini. Throws Error when there is no such data source.
 QString FileOfConnectString(const QString& connectString);
 
+/// A connection text for the file at a path, whatever it ends in.
+QString ConnectStringOfFile(const QString& path);
+
 }  // namespace tavrelin

@@ -9,6 +9,7 @@
 #include "data/Sql.h"
 #include "data/UpgradeSteps.h"
 #include "shell/Store.h"
+#include "shell/StoredValues.h"
 
 namespace tavrelin {
 namespace {
@@ -155,26 +156,28 @@ bool WouldChange(Connection& connection) {
   return changes;
 }
 
-constexpr const char* MovedSettings[] = {"CurrentDatabase",
-                                         "BriefReport",
-                                         "CountTeamWins",
-                                         "ExportMembershipPath",
-                                         "ExportMembershipSanction",
-                                         "ExportMembershipState",
-                                         "ExportNatStatsPath",
-                                         "ExportProfilePath",
-                                         "ExportStatsPath",
-                                         "Forfeit",
-                                         "GameBasis",
-                                         "HandicapBasis",
-                                         "LeaguesPath",
-                                         "NatStatEmail",
-                                         "RecentLeague",
-                                         "RecentTournament",
-                                         "ReturnAddress",
-                                         "ScoreCheck",
-                                         "StandingsSort",
-                                         "TournamentPath"};
+constexpr StoredValue MovedSettings[] = {
+    stored::CurrentDatabase,
+    stored::BriefReport,
+    stored::CountTeamWins,
+    stored::ExportMembershipPath,
+    stored::ExportMembershipSanction,
+    stored::ExportMembershipState,
+    stored::ExportNatStatsPath,
+    stored::ExportProfilePath,
+    stored::ExportStatsPath,
+    stored::Forfeit,
+    stored::GameBasis,
+    stored::HandicapBasis,
+    stored::LeaguesPath,
+    stored::NatStatEmail,
+    stored::RecentLeague,
+    stored::RecentTournament,
+    stored::ReturnAddress,
+    stored::ScoreCheck,
+    stored::StandingsSort,
+    stored::TournamentPath,
+};
 
 }  // namespace
 
@@ -203,13 +206,14 @@ void clsDDP::Upgrade(Connection& connection) {
   upgrade.Commit();
 }
 
+// Only what was stored moves, no default; but the path of the club's file is there from then on.
 void clsDDP::UpdateRegistry(Store& store) {
-  const QString defaultPath = QStringLiteral("C:\\TavrelinData\\Tavrelin.mdb");
-  for (const char* setting : MovedSettings) {
-    const QString name = QString::fromLatin1(setting);
-    const QString fallback = setting == MovedSettings[0] ? defaultPath : QString();
-    const QString value = store.GetMachineRegistryString({}, name, fallback).trimmed();
-    if (!value.isEmpty()) store.SaveRegistryString({}, name, value);
+  for (const StoredValue& moved : MovedSettings) {
+    const QString name = QLatin1String(moved.name);
+    const bool isDatabase = name == QLatin1String(stored::CurrentDatabase.name);
+    const QString value = store.GetMachineRegistryString(
+        {}, name, isDatabase ? QString(QLatin1String(DefaultDatabase)) : QString());
+    if (!value.isEmpty()) store.Save(moved, value);
   }
 }
 

@@ -6,6 +6,7 @@
 #include "app/PdfOption.h"
 #include "basic/Error.h"
 #include "data/Connection.h"
+#include "data/SystemSettings.h"
 #include "play/CardJob.h"
 #include "play/CardSheets.h"
 #include "play/ClassLoad.h"
@@ -83,9 +84,7 @@ CardSettings SettingsFor(Connection& connection, const LoadedClass& loaded,
   if (options.style == CardStyle::TwoUp && !loaded.Format().hasTwoUpCards) {
     Refuse(QStringLiteral("A doubles class has no cards of style 3"));
   }
-  Recordset rows;
-  rows.Open(QStringLiteral("SELECT * FROM SystemSettings ORDER BY SettingID"), connection);
-  CardSettings settings = ReadCardSettings(rows, loaded.Format());
+  CardSettings settings = ReadCardSettings(connection, loaded.Format());
   settings.style = options.style.value_or(settings.style);
   return settings;
 }

@@ -2,7 +2,7 @@
 
 namespace tavrelin {
 
-class Recordset;
+class SystemSettings;
 struct PlayFormat;
 
 /// How cards stand on paper, by the number under which the Settings screen knows the style.
@@ -27,9 +27,8 @@ struct CardSettings {
   int RightShift() const { return style == CardStyle::Card ? right : right + 100; }
 };
 
-/// Reads them from the rows of SystemSettings, whose cursor stays; a row that is missing, or holds
-/// no number where one belongs, counts as not set. Doubles reads the style as a yes or no: folded
-/// or not.
-CardSettings ReadCardSettings(const Recordset& settings, const PlayFormat& format);
+/// Picks them from the club's settings; one that is missing, or holds no number where one belongs,
+/// counts as not set. Doubles reads the style as a yes or no: folded or not.
+CardSettings ReadCardSettings(const SystemSettings& settings, const PlayFormat& format);
 
 }  // namespace tavrelin

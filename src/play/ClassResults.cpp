@@ -88,12 +88,4 @@ int CopiesOf(const QString& text) {
   return IsNumeric(text) ? std::max(CLng(text), 1) : 1;
 }
 
-int ResultsVerticalOffset(Connection& connection) {
-  Recordset setting;
-  setting.Open(QStringLiteral("SELECT SettingValue FROM SystemSettings WHERE SettingID = 9"),
-               connection);
-  const Value value = setting.AtEnd() ? Value() : setting.At(0);
-  return IsNumeric(value) ? CLng(value) : 0;
-}
-
 }  // namespace tavrelin

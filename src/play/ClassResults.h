@@ -59,7 +59,4 @@ ClassResults ReadResults(Connection& connection, Standings& standings);
 /// How often the sheet is printed: the number in the box, and once when it holds none or less.
 int CopiesOf(const QString& text);
 
-/// Twips by which the singles sheet is moved down, as setting 9 says; 0 when it holds no number.
-int ResultsVerticalOffset(Connection& connection);
-
 }  // namespace tavrelin

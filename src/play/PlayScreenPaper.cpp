@@ -3,6 +3,7 @@
 #include <QCheckBox>
 
 #include "controls/GridEX.h"
+#include "data/SystemSettings.h"
 #include "play/CardFrame.h"
 #include "play/CardJob.h"
 #include "play/CardSheets.h"
@@ -31,10 +32,9 @@ QString TitleOf(const ClassResults& results) {
 }  // namespace
 
 void PlayScreen::ReadPaperSettings() {
-  Recordset rows;
-  rows.Open("SELECT * FROM SystemSettings ORDER BY SettingID", data_->connection);
-  data_->cardSettings = ReadCardSettings(rows, format_);
-  data_->verticalOffset = ResultsVerticalOffset(data_->connection);
+  const SystemSettings settings(data_->connection);
+  data_->cardSettings = ReadCardSettings(settings, format_);
+  data_->verticalOffset = settings.Twips(Setting::ResultsVertical);
   if (data_->cardSettings.backOnly) Frame2_->SelectFace(CardFace::Back);
 }
 

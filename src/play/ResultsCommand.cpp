@@ -6,6 +6,7 @@
 #include "app/PdfOption.h"
 #include "basic/TextFile.h"
 #include "data/Connection.h"
+#include "data/SystemSettings.h"
 #include "play/ClassResults.h"
 #include "play/Commands.h"
 #include "play/Ranking.h"
@@ -76,7 +77,7 @@ int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& 
     WriteText(options.textFile.value_or(QStringLiteral("-")), text, out);
     return exits::Done;
   }
-  const int offset = ResultsVerticalOffset(connection);
+  const int offset = SystemSettings(connection).Twips(Setting::ResultsVertical);
   const QString title = results.tournament + QStringLiteral(" - ") + results.className;
   const Document document = Record(OutputTarget::Kind::Printer, title, [&](OutputTarget& target) {
     PrintTheClass(target, results, options.choice, offset);

@@ -15,6 +15,7 @@
 #include "print/PageSurface.h"
 #include "shell/MessageBar.h"
 #include "shell/Store.h"
+#include "shell/StoredValues.h"
 #include "shell/Twips.h"
 
 namespace tavrelin {
@@ -26,10 +27,9 @@ constexpr int LineStep = 40;  // pixels that an arrow key scrolls
 constexpr double SmallestZoom = 0.25;
 constexpr double LargestZoom = 4;
 constexpr double ZoomStep = 1.25;
-const QString Section = QStringLiteral("frmReport");
 
-int Pixels(const Store& store, const QString& name, const QString& fallback) {
-  return PixelsOf(static_cast<int>(Val(store.GetRegistryString(Section, name, fallback))));
+int Pixels(const Store& store, const StoredValue& twips) {
+  return PixelsOf(static_cast<int>(Val(store.Get(twips))));
 }
 
 }  // namespace
@@ -202,8 +202,7 @@ void frmReport::Run(const std::function<QString()>& action) {
 }
 
 void frmReport::Form_Load() {
-  QSize size(Pixels(store_, QStringLiteral("Width"), QStringLiteral("9600")),
-             Pixels(store_, QStringLiteral("Height"), QStringLiteral("7200")));
+  QSize size(Pixels(store_, stored::PreviewWidth), Pixels(store_, stored::PreviewHeight));
   size = size.expandedTo(minimumSize()).boundedTo(screen()->availableSize());
   resize(size);
   loaded_ = this->size();
@@ -212,11 +211,8 @@ void frmReport::Form_Load() {
 // A size the operator did not touch is left as it is stored: twips do not all fall on pixels.
 void frmReport::Form_Unload() {
   if (isMaximized() || size() == loaded_) return;
-  const auto save = [this](const QString& name, int pixels) {
-    store_.SaveRegistryString(Section, name, QString::number(TwipsOf(pixels)));
-  };
-  save(QStringLiteral("Height"), height());
-  save(QStringLiteral("Width"), width());
+  store_.Save(stored::PreviewHeight, QString::number(TwipsOf(height())));
+  store_.Save(stored::PreviewWidth, QString::number(TwipsOf(width())));
 }
 
 void frmReport::Form_Resize() {

@@ -6,15 +6,15 @@
 #include "data/clsDDP.h"
 #include "data/Connection.h"
 #include "data/DataSource.h"
+#include "data/NewFile.h"
 #include "data/Schema.h"
+#include "shell/ClubDatabase.h"
 #include "shell/Store.h"
+#include "shell/StoredValues.h"
 
 namespace tavrelin {
 
 namespace {
-
-const QString DataSource = QStringLiteral("uid=;pwd=;dsn=Tavrelin");
-const QString CurrentDatabase = QStringLiteral("CurrentDatabase");
 
 // All of it is the window's Form_Load, and the trail of an error says so.
 constexpr char FormLoad[] = "Form_Load";
@@ -37,14 +37,10 @@ void StartUp::SeedStore() {
 }
 
 void StartUp::ChooseDatabase(const QString& commandLine) {
-  ConnectString = DataSource;
-  const bool stored = !DataSourceWorks();
-  DatabasePath = stored ? StoredPath() : store_.GetRegistryString({}, CurrentDatabase);
-  if (!DatabasePath.isEmpty()) ConnectString = ConnectStringFor(DatabasePath);
+  UseDatabase({});
+  UseDatabase(DataSourceWorks() ? store_.Get(stored::CurrentDatabase) : StoredPath());
   const QString named = commandLine.trimmed();
-  if (named.isEmpty()) return;
-  DatabasePath = named;
-  ConnectString = ConnectStringFor(DatabasePath);
+  if (!named.isEmpty()) UseDatabase(named);
 }
 
 // That the data source does not open is how a missing one is noticed: no failure. One whose file is
@@ -53,7 +49,7 @@ void StartUp::ChooseDatabase(const QString& commandLine) {
 bool StartUp::DataSourceWorks() const {
   try {
     Connection test;
-    test.Open(DataSource);
+    test.Open(ConnectString);
     return true;
   } catch (const Error& error) {
     return error.number() == errors::FileInUse;
@@ -61,38 +57,18 @@ bool StartUp::DataSourceWorks() const {
 }
 
 QString StartUp::StoredPath() {
-  const QString path = store_.GetRegistryString({}, CurrentDatabase);
+  const QString path = store_.Get(stored::CurrentDatabase);
   if (!path.isEmpty()) return path;
-  errors_.Run(FormLoad, [this] {
-    if (store_.SaveRegistryString({}, CurrentDatabase, QLatin1String(DefaultDatabase))) return;
-    throw Error(errors::File,
-                QStringLiteral("Your settings cannot be kept in %1. The program works, but forgets "
-                               "them when it ends. See that you may write to that folder.")
-                    .arg(store_.File()));
-  });
+  errors_.Run(FormLoad, [this] { StoreDatabasePath(store_, QLatin1String(DefaultDatabase)); });
   return QLatin1String(DefaultDatabase);
 }
 
 void StartUp::UpdateDatabase() {
   errors_.Run(FormLoad, [this] {
     DeliverFirstFile();
-    UpdateDB();
+    UpdateDatabaseInUse(showError_);
   });
   HoldFile();
-}
-
-// The data source's own words do not help an operator who has chosen no database.
-void StartUp::UpdateDB() {
-  try {
-    clsDDP(showError_).UpdateDB();
-  } catch (const Error& error) {
-    if (ConnectString != DataSource) throw;
-    throw Error(
-        error.number(),
-        QStringLiteral("No club file is in use. Choose the club's file under Setup, Database; "
-                       "its name ends in .mdb or .accdb.~") +
-            error.description());
-  }
 }
 
 void StartUp::HoldFile() {
@@ -104,6 +80,7 @@ void StartUp::HoldFile() {
     if (!QFileInfo(file).isFile()) return;
     claim_ = FileClaim(file);
     held_ = file;
+    RemoveLeftovers(file, QFileInfo(file).absolutePath());
   } catch (const Error&) {
     held_.clear();
   }

@@ -9,9 +9,6 @@ namespace tavrelin {
 
 class Store;
 
-/// The path of the club's file when nobody has chosen another.
-inline constexpr char DefaultDatabase[] = "C:\\TavrelinData\\Tavrelin.mdb";
-
 /// What happens between the start of the program and the operator's first press of a button:
 /// settings moved to the operator, the database chosen (ConnectString, DatabasePath) and brought up
 /// to date. Needs no window. The store must outlive it.
@@ -43,7 +40,6 @@ class StartUp {
   bool DataSourceWorks() const;
   QString StoredPath();
   void DeliverFirstFile() const;
-  void UpdateDB();
 
   Store& store_;
   CSError::Display showError_;

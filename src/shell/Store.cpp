@@ -9,13 +9,14 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include "shell/StoredValues.h"
+
 namespace tavrelin {
 
 namespace {
 
 constexpr qsizetype LongestValue = 255;
 constexpr int LockWaitMilliseconds = 3000;
-constexpr QLatin1String DataFolder("C:\\TavrelinData\\");
 
 struct Section {
   QString name;
@@ -132,6 +133,10 @@ QString Read(const QString& path, const QString& sectionName, const QString& nam
   return fallback;
 }
 
+QString UsableFolder(const QString& path) {
+  return path.contains(QLatin1String("C:\\Program Files")) ? QLatin1String(DataFolder) : path;
+}
+
 QString PlatformFile() {
   const QString named = qEnvironmentVariable("TAVRELIN_STORE");
   if (!named.isEmpty()) return named;
@@ -174,9 +179,19 @@ QString Store::GetMachineRegistryString(const QString& section, const QString& n
   return machine.isEmpty() ? fallback : Read(machine, section, name, fallback);
 }
 
+QString Store::Get(const StoredValue& value, const QString& section) const {
+  const QString text = GetRegistryString(section.isEmpty() ? QLatin1String(value.section) : section,
+                                         QLatin1String(value.name), QLatin1String(value.fallback));
+  return value.isFolder ? UsableFolder(text) : text;
+}
+
+bool Store::Save(const StoredValue& value, const QString& text, const QString& section) {
+  return SaveRegistryString(section.isEmpty() ? QLatin1String(value.section) : section,
+                            QLatin1String(value.name), text);
+}
+
 QString Store::GetPath(const QString& name) const {
-  const QString path = GetRegistryString({}, name, DataFolder);
-  return path.contains(QLatin1String("C:\\Program Files")) ? QString(DataFolder) : path;
+  return UsableFolder(GetRegistryString({}, name, QLatin1String(DataFolder)));
 }
 
 }  // namespace tavrelin

@@ -4,6 +4,8 @@
 
 namespace tavrelin {
 
+struct StoredValue;
+
 /// The operator's own settings: one small file of sections and texts, under the platform's
 /// configuration folder (the environment variable TAVRELIN_STORE points it elsewhere). Read at each
 /// call, and written whole to a neighbor and renamed under a lock, so two programs do not undo each
@@ -27,8 +29,13 @@ class Store {
   /// nothing.
   QString GetMachineRegistryString(const QString& section, const QString& name,
                                    const QString& fallback = {}) const;
-  /// A stored folder, by the rule of all path settings: "C:\TavrelinData\" stands in for a missing
-  /// one and for one under "C:\Program Files".
+  /// One of the values of StoredValues.h, with its default and, when it is a folder, by the rule of
+  /// folders. `section` goes before the value's own, for values that stand in many.
+  QString Get(const StoredValue& value, const QString& section = {}) const;
+  /// False when it cannot be kept.
+  bool Save(const StoredValue& value, const QString& text, const QString& section = {});
+  /// A stored folder of the root, by the rule of folders: "C:\TavrelinData\" stands in for a
+  /// missing one and for one that holds "C:\Program Files" anywhere, case counted.
   QString GetPath(const QString& name) const;
 
   const QString& File() const { return file_; }

@@ -261,6 +261,17 @@ TEST_F(ClubCommandsTest, CheckWritesNothingAndWorksBesideAnOpenWindow) {
   EXPECT_EQ(bytes.readAll(), before);
 }
 
+TEST_F(ClubCommandsTest, BackupWritesThePathOfTheCopyItMadeBesideAnOpenWindow) {
+  DeliverClubFile(file);
+  Connection window;
+  window.Open(FileConnectString(file));
+  const Answer backup = Ask(ClubCommands(), {"backup", file});
+  EXPECT_EQ(backup.code, 0) << backup.err.toStdString();
+  EXPECT_TRUE(backup.out.startsWith(folder.filePath("Backups/Club.")));
+  EXPECT_EQ(PlainDatabase(backup.out.trimmed()).Content(), PlainDatabase(file).Content());
+  EXPECT_EQ(Ask(ClubCommands(), {"backup", folder.filePath("None.mdb")}).code, 1);
+}
+
 TEST(TavrelinctlTest, ExitCodesReachTheShell) {
   const QTemporaryDir folder;
   const QString program = QStringLiteral(TAVRELIN_BINARY_DIR "/src/app/tavrelinctl");

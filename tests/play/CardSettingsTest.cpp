@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "data/Recordset.h"
+#include "data/SystemSettings.h"
 #include "play/PlayFormat.h"
 
 namespace tavrelin {

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "shell/StoredValues.h"
 #include "support/QtPrinters.h"
 
 namespace tavrelin {
@@ -129,6 +130,77 @@ TEST_F(StoreTest, APathUnderProgramFilesReadsAsTheDataFolder) {
   EXPECT_EQ(store.GetPath("TournamentPath"), "C:\\TavrelinData\\");
   store.SaveRegistryString("", "TournamentPath", "c:\\program files\\Old\\");
   EXPECT_EQ(store.GetPath("TournamentPath"), "c:\\program files\\Old\\");
+}
+
+struct Default {
+  StoredValue value;
+  QString section, name, text;
+};
+
+QList<Default> AllDefaults() {
+  using namespace stored;
+  const QString data = "C:\\TavrelinData\\";
+  return {
+      {CurrentDatabase, "", "CurrentDatabase", ""},
+      {RecentTournament, "", "RecentTournament", ""},
+      {RecentLeague, "", "RecentLeague", ""},
+      {ScoreCheck, "", "ScoreCheck", "0"},
+      {Forfeit, "", "Forfeit", "0"},
+      {BriefReport, "", "BriefReport", "0"},
+      {TournamentPath, "", "TournamentPath", data},
+      {ExportProfilePath, "", "ExportProfilePath", data},
+      {ExportStatsPath, "", "ExportStatsPath", data},
+      {ExportNatStatsPath, "", "ExportNatStatsPath", data},
+      {ExportMembershipPath, "", "ExportMembershipPath", data},
+      {ExportMembershipState, "", "ExportMembershipState", ""},
+      {ExportMembershipSanction, "", "ExportMembershipSanction", ""},
+      {ReturnAddress, "", "ReturnAddress", ""},
+      {NatStatEmail, "", "NatStatEmail", ""},
+      {HandicapBasis, "", "HandicapBasis", "Best Player"},
+      {StandingsSort, "", "StandingsSort", "Wins"},
+      {GameBasis, "", "GameBasis", "All Games"},
+      {CountTeamWins, "", "CountTeamWins", "1"},
+      {LeaguesPath, "", "LeaguesPath", data},
+      {XmitState, "Xmit", "State", ""},
+      {XmitSanctionID, "Xmit", "SanctionID", ""},
+      {XmitYear, "Xmit", "Year", ""},
+      {XmitReport, "Xmit", "Report", "0"},
+      {StartTab, "Export", "StartTab", "0"},
+      {PreviewHeight, "frmReport", "Height", "7200"},
+      {PreviewWidth, "frmReport", "Width", "9600"},
+  };
+}
+
+TEST_F(StoreTest, EveryValueStandsUnderItsNameAndReadsAsItsDefaultUntilItIsStored) {
+  for (const Default& one : AllDefaults()) {
+    SCOPED_TRACE(one.name.toStdString());
+    EXPECT_EQ(store.Get(one.value), one.text);
+    ASSERT_TRUE(store.Save(one.value, "  "));
+    EXPECT_EQ(store.Get(one.value), one.text);
+    ASSERT_TRUE(store.Save(one.value, "D:\\Club\\"));
+    EXPECT_EQ(store.Get(one.value), "D:\\Club\\");
+    EXPECT_EQ(store.GetRegistryString(one.section, one.name), "D:\\Club\\");
+  }
+}
+
+TEST_F(StoreTest, FoldersAloneAreNeverUnderProgramFiles) {
+  const QString old = "C:\\Program Files\\Old\\";
+  for (const Default& one : AllDefaults()) {
+    SCOPED_TRACE(one.name.toStdString());
+    ASSERT_TRUE(store.Save(one.value, old));
+    EXPECT_EQ(store.Get(one.value), one.text.startsWith("C:\\") ? "C:\\TavrelinData\\" : old);
+  }
+}
+
+TEST_F(StoreTest, ReportNumbersAreKeptForEachStateOrLeagueAndYear) {
+  const QString minnesota = ReportSection("MN", "2025"), league = ReportSection("25MN001", "2026");
+  EXPECT_EQ(minnesota, "MN2025");
+  EXPECT_EQ(store.Get(stored::ExportMembershipReport, minnesota), "0");
+  EXPECT_EQ(store.Get(stored::LeagueMembershipReport, league), "1");
+  ASSERT_TRUE(store.Save(stored::ExportMembershipReport, "7", minnesota));
+  EXPECT_EQ(store.Get(stored::ExportMembershipReport, minnesota), "7");
+  EXPECT_EQ(store.Get(stored::ExportMembershipReport, ReportSection("MN", "2026")), "0");
+  EXPECT_EQ(store.GetRegistryString("MN2025", "ExportMembershipReport"), "7");
 }
 
 TEST(StoreFile, TheEnvironmentPointsTheStoreElsewhere) {
