@@ -16,6 +16,8 @@
 #include "controls/GridEX.h"
 #include "data/Connection.h"
 #include "players/uctProfile.h"
+#include "players/uctScores.h"
+#include "players/uctTeam.h"
 #include "shell/Application.h"
 #include "support/ScreenBench.h"
 
@@ -75,6 +77,14 @@ void TellMemory() {
   }
 }
 
+// The other screens that open on the whole roster.
+template <class ScreenClass>
+void MeasureShow(ScreenBench& bench, Connection& club, const char* what, const char* sql) {
+  bench.Show<ScreenClass>();
+  const double show = Median(3, [&] { bench.LeaveAndReturn(); });
+  Tell(what, show, Median(3, [&] { BareFetch(club, sql); }));
+}
+
 void Measure(int players) {
   ScreenBench bench;
   Connection club;
@@ -101,6 +111,13 @@ void Measure(int players) {
   });
   Tell("first key of a typed search", first, bare);
   Tell("next key", next, bare);
+  MeasureShow<uctScores>(
+      bench, club, "show the stats",
+      "SELECT PlayerID, LastName, FirstName, Category FROM Players ORDER BY LastName");
+  MeasureShow<uctTeam>(
+      bench, club, "show the teams",
+      "SELECT PlayerID, RTRIM(LastName) || ', ' || RTRIM(FirstName) AS PlayerName, City, State "
+      "FROM Players ORDER BY 2");
 }
 
 }  // namespace

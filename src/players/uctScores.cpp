@@ -178,12 +178,6 @@ void uctScores::LoadPlayers() {
   Recordset& players = data_->players;
   players.Open("SELECT PlayerID, LastName, FirstName, Category FROM Players ORDER BY LastName",
                data_->connection);
-  ValueList names;
-  for (int at = 1; at <= players.RecordCount(); ++at) {
-    names.Add(players.CellAt(at, 0),
-              players.CellAt(at, 1).ToText() + u' ' + players.CellAt(at, 2).ToText());
-  }
-  GridEX2_->SetValueList("PlayerID", names);
   GridEX1_->SetRecordset(&players);
 }
 
@@ -205,8 +199,8 @@ void uctScores::UserControl_Hide() {
   data_.reset();
 }
 
-// A new row starts as the player's own, in the present division, so that it needs only the
-// tournament and the figures.
+// All rows are the player's own: one name is all that the grid needs. A new row starts in the
+// present division, so that it needs only the tournament and the figures.
 void uctScores::PlayerSelected() {
   if (GridEX1_->Row() < 1 || !GridEX2_->CommitRow()) return;
   const Value playerID = GridEX1_->Value("PlayerID");
@@ -216,12 +210,14 @@ void uctScores::PlayerSelected() {
       "Wins, Losses, Place, HiGame FROM PlayerScores WHERE PlayerID = ?",
       data_->connection, Recordset::Lock::Optimistic, {playerID});
   data_->keys = data_->scores.Clone();
+  const QString name =
+      GridEX1_->Value("LastName").ToText() + u' ' + GridEX1_->Value("FirstName").ToText();
+  GridEX2_->SetValueList("PlayerID", {{playerID, name}});
   GridEX2_->SetDefault("PlayerID", playerID);
   GridEX2_->SetDefault("Category", GridEX1_->Value("Category"));
   GridEX2_->SetEmptyText("No tournaments yet. Type the first one in the top row.");
   GridEX2_->SetRecordset(&data_->scores);
-  Label2_->setText("Tournament Scores: " + GridEX1_->Value("LastName").ToText() + u' ' +
-                   GridEX1_->Value("FirstName").ToText());
+  Label2_->setText("Tournament Scores: " + name);
 }
 
 void uctScores::GridEX1_KeyDown(GridKeyDown& event) {
