@@ -38,18 +38,25 @@ QList<Entrant> ReadEntrants(Connection& connection, const ClassRules& rules) {
 }
 
 void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>& entrants) {
-  if (format.namesInStatement) return;
   QStringList ids;
   for (const Entrant& entrant : entrants) {
     for (const ThrowerColumns& thrower : format.throwers)
       ids << entrant.values[thrower.id].ToText();
   }
-  const ByID<PersonName> names = PlayerNames(connection, ids);
+  const bool needsRoster = !format.rosterFields.isEmpty();
+  const ByID<PersonName> names = PlayerNames(connection, ids, {"State"});
+  if (needsRoster) {
+    entrants.removeIf([&](const Entrant& entrant) {
+      return !names.contains(entrant.values[format.entrantID].ToText());
+    });
+  }
   for (Entrant& entrant : entrants) {
     for (const ThrowerColumns& thrower : format.throwers) {
       const PersonName name = names.value(entrant.values[thrower.id].ToText());
       entrant.values[thrower.firstName] = name.first;
       entrant.values[thrower.lastName] = name.last;
+      if (needsRoster)
+        entrant.values[QStringLiteral("State")] = name.values[QStringLiteral("State")];
     }
   }
 }
@@ -162,13 +169,13 @@ LoadedClass LoadClass(Connection& connection, const ClassRules& rules, bool with
   loaded.hasPacer = withPacer;
   ReadGameRows(connection, loaded);
   QList<Entrant> entrants = ReadEntrants(connection, rules);
+  FillNames(connection, rules.Format(), entrants);
   loaded.entrants = static_cast<int>(entrants.size());
   if (entrants.isEmpty()) {
     loaded.refusal = QStringLiteral("No players entered in class");
     loaded.list = MakeList(rules.Format(), {});
     return loaded;
   }
-  FillNames(connection, rules.Format(), entrants);
   Number(entrants);
   if (loaded.hasPacer) entrants.append(Pacer(rules.Format()));
   loaded.list = MakeList(rules.Format(), entrants);

@@ -70,18 +70,19 @@ ThrowerColumns Partner(const QString& player) {
           player + "FirstName", player + "LastName", player + "Name"};
 }
 
-/// The literal 0.0111 only makes the engine give the two computed columns a floating type.
+/// The literal 0.0111 only makes the engine give the two computed columns a floating type. The
+/// roster's columns are reserved and filled by one walk over it: a join would walk it once for each
+/// entrant.
 QString SinglesStandings(const QString& tail) {
   return QStringLiteral(
-             "SELECT RTRIM(p.FirstName) + ' ' + RTRIM(p.LastName) AS PlayerName, p.PlayerID, "
-             "p.State, p.Category, e.RingerPercent AS EntryAvg, e.TotalWins AS Won, "
+             "SELECT %1 AS PlayerName, e.PlayerID, %2 AS State, %2 AS Category, "
+             "e.RingerPercent AS EntryAvg, e.TotalWins AS Won, "
              "e.TotalLosses AS Loss, e.TotalRingers AS Ringers, e.TotalShoes AS Shoes, "
              "0.0111 AS RingerPercent, 0.0111 AS OverAverage, 0 AS HeadToHead, "
-             "e.TotalPoints AS Points, p.CardNumber as Card, Seed") +
+             "e.TotalPoints AS Points, %3 AS Card, Seed")
+             .arg(Placeholder(46), Placeholder(2), Placeholder(6)) +
          tail +
-         QStringLiteral(
-             " FROM TournamentEntrants e, Players p WHERE e.SanctionID = ? AND "
-             "e.ClassID = ? AND e.PlayerID = p.PlayerID");
+         QStringLiteral(" FROM TournamentEntrants e WHERE e.SanctionID = ? AND e.ClassID = ?");
 }
 
 QString DoublesStandings(const QString& floating) {
@@ -105,9 +106,8 @@ void NameSinglesStatements(PlayFormat& f) {
           "PlayerTwoSinglePoints, PlayerOneForfeit, PlayerTwoForfeit, Approved, GameID"),
       f.gameTable);
   f.entrantsStatement = QStringLiteral(
-      "SELECT e.PlayerID, e.Seed, e.RingerPercent, p.FirstName, p.LastName, State, e.TotalWins, "
-      "e.TotalLosses, 0 AS PlayerNumber FROM TournamentEntrants e, Players p "
-      "WHERE e.SanctionID = ? AND e.ClassID = ? AND e.PlayerID = p.PlayerID");
+      "SELECT e.PlayerID, e.Seed, e.RingerPercent, e.TotalWins, e.TotalLosses, 0 AS PlayerNumber "
+      "FROM TournamentEntrants e WHERE e.SanctionID = ? AND e.ClassID = ?");
   f.standingsStatement = SinglesStandings(QStringLiteral(", 0 AS Rank, RankOverride AS Override"));
   f.reportStatement = SinglesStandings({});
 }
@@ -150,7 +150,7 @@ PlayFormat MakeSingles() {
                   {"State", FieldType::Text, 6},       {"TotalWins", FieldType::Text, 4},
                   {"TotalLosses", FieldType::Text, 4}, {"PlayerNumber", FieldType::Long}};
   f.pacerRow = {{"PlayerID", f.pacerID}, {"FirstName", "PACER"}, {"LastName", " "}};
-  f.namesInStatement = true;
+  f.rosterFields = {{"State", "State"}, {"Category", "Category"}, {"Card", "CardNumber"}};
   f.hasOverride = true;
   f.hasTwoUpCards = true;
   f.standingsName = QStringLiteral("PlayerName");
@@ -215,13 +215,17 @@ const PlayFormat& FormatOf(const QString& code) {
   return code.trimmed().compare(u"D", Qt::CaseInsensitive) == 0 ? DoublesFormat() : SinglesFormat();
 }
 
-ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids) {
+ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids,
+                             const QStringList& columns) {
+  const QStringList all = QStringList{"PlayerID", "FirstName", "LastName"} + columns;
   ByID<PersonName> names;
   Recordset rows =
-      RowsByID(connection, QStringLiteral("SELECT PlayerID, FirstName, LastName FROM Players"),
+      RowsByID(connection, QStringLiteral("SELECT %1 FROM Players").arg(all.join(u", ")),
                QStringLiteral("PlayerID"), ids);
   for (; !rows.AtEnd(); rows.MoveNext()) {
-    names[rows.At(0).ToText()] = {rows.At(1).Trimmed(), rows.At(2).Trimmed()};
+    PersonName& name = names[rows.At(0).ToText()];
+    name = {rows.At(1).Trimmed(), rows.At(2).Trimmed()};
+    for (const QString& column : columns) name.values[column] = rows[column];
   }
   return names;
 }

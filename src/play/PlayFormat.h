@@ -60,7 +60,9 @@ struct PlayFormat {
   QString reportStatement;                ///< the standings as the after-play reports read them
   QList<Field> listFields;                ///< of the class list, with "PlayerNumber" last
   QList<QPair<QString, Value>> pacerRow;  ///< the pacer as the class list shows it
-  bool namesInStatement = false;          ///< the throwers' names come with the statements above
+  /// Places in the rows above that the throwers' roster fills, and its columns. An entrant who is
+  /// not on the roster is in no list then.
+  QList<QPair<QString, QString>> rosterFields;
 
   QString standingsName;          ///< the entrant's name in a row of the standings
   QStringList standingsRingers;   ///< ringers by thrower in a row of the standings
@@ -84,10 +86,12 @@ const PlayFormat& FormatOf(const QString& code);
 struct PersonName {
   QString first;
   QString last;
+  QHash<QString, Value> values = {};  ///< what else was asked for, by column
   QString Full() const { return (first + u' ' + last).trimmed(); }
 };
 
-/// First and last names by PlayerID, in one query.
-ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids);
+/// First and last names by PlayerID, in one query; and further columns of the roster.
+ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids,
+                             const QStringList& columns = {});
 
 }  // namespace tavrelin

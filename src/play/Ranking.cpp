@@ -43,16 +43,31 @@ void ComputePercentages(Recordset& rows) {
   });
 }
 
+/// Who was taken off the roster is in no list.
+void DropStrangers(Recordset& rows, const QString& idField, const ByID<PersonName>& roster) {
+  for (rows.MoveFirst(); !rows.AtEnd();) {
+    if (roster.contains(rows[idField].ToText())) {
+      rows.MoveNext();
+    } else {
+      rows.Delete();
+    }
+  }
+}
+
 void FillNames(Connection& connection, const PlayFormat& format, Recordset& rows) {
-  if (format.namesInStatement) return;
-  QStringList ids;
+  QStringList ids, columns;
+  for (const auto& [field, column] : format.rosterFields) columns << column;
   EachRow(rows, [&] {
     for (const ThrowerColumns& thrower : format.throwers) ids << rows[thrower.id].ToText();
   });
-  const ByID<PersonName> names = PlayerNames(connection, ids);
+  const ByID<PersonName> names = PlayerNames(connection, ids, columns);
+  if (!columns.isEmpty()) DropStrangers(rows, format.entrantID, names);
   EachRow(rows, [&] {
     for (const ThrowerColumns& thrower : format.throwers) {
-      rows.Set(thrower.fullName, names.value(rows[thrower.id].ToText()).Full().left(45));
+      const PersonName name = names.value(rows[thrower.id].ToText());
+      const int width = rows.Fields()[rows.FieldIndex(thrower.fullName)].size;
+      rows.Set(thrower.fullName, name.Full().left(width));
+      for (const auto& [field, column] : format.rosterFields) rows.Set(field, name.values[column]);
     }
   });
 }
@@ -185,10 +200,10 @@ Standings RankTheClass(Connection& connection, const ClassRules& rules,
   standings.games = ReadClassGames(connection, rules);
   WriteTotals(connection, rules, standings.games);
   standings.rows = OpenStandings(connection, rules, options.forReport);
-  if (standings.rows.AtEnd()) {
+  if (standings.rows.RecordCount() > 0) FillNames(connection, rules.Format(), standings.rows);
+  if (standings.rows.RecordCount() == 0) {
     if (!options.forReport) standings.refusal = QStringLiteral("Nothing to report");
   } else {
-    FillNames(connection, rules.Format(), standings.rows);
     ComputePercentages(standings.rows);
     WriteHeadToHead(connection, standings);
     FillSeeds(standings.rows);
