@@ -35,6 +35,7 @@ class DemoOperator : public Operator {
   void Tell(const QString& title, const QString& text) override;
   QString OpenFile(const QString&, const QString&, const QString&) override { return {}; }
   QString SaveFile(const QString&, const QString&, const QString&) override { return {}; }
+  int ChooseBackup(const QString&, const QList<ClubBackup>&) override { return -1; }
   void Beep() override {}
   void SetBusy(bool) override {}
 };

@@ -6,6 +6,8 @@
 #include "players/uctScores.h"
 #include "players/uctTeam.h"
 #include "shell/EmptyScreen.h"
+#include "shell/uctDatabase.h"
+#include "shell/uctSettings.h"
 #include "tournament/uctEntrants.h"
 #include "tournament/uctTournaments.h"
 
@@ -51,8 +53,8 @@ const QList<MakeScreen>& AllScreens() {
       Without("uctLeagueReports", "League Reports"),
       Without("uctTransmittal", "Membership Transmittal"),
       Make<uctTeam>(),
-      Without("uctDatabase", "Setup Database"),
-      Without("uctSettings", "Settings"),
+      Make<uctDatabase>(),
+      Make<uctSettings>(),
   };
   return screens;
 }

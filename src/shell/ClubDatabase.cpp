@@ -8,6 +8,18 @@
 
 namespace tavrelin {
 
+namespace {
+
+QString FileOrNone(const QString& connectString) {
+  try {
+    return FileOfConnectString(connectString);
+  } catch (const Error&) {
+    return {};
+  }
+}
+
+}  // namespace
+
 void UseDatabase(const QString& path) {
   DatabasePath = path;
   ConnectString = ConnectStringFor(path);
@@ -22,11 +34,11 @@ void StoreDatabasePath(Store& store, const QString& path) {
 }
 
 QString DatabaseInUse() {
-  try {
-    return FileOfConnectString(ConnectString);
-  } catch (const Error&) {
-    return {};
-  }
+  return FileOrNone(ConnectString);
+}
+
+QString DatabaseAt(const QString& path) {
+  return FileOrNone(ConnectStringFor(path));
 }
 
 // The data source's own words do not help an operator who has chosen no database.

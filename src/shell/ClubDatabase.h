@@ -18,6 +18,8 @@ void StoreDatabasePath(Store& store, const QString& path);
 
 /// The platform path of the club's file in use; empty when none is chosen.
 QString DatabaseInUse();
+/// The same for a path that is not in use yet.
+QString DatabaseAt(const QString& path);
 
 /// Brings the club's file in use up to date. Throws Error when it cannot be opened; what goes wrong
 /// later is shown.

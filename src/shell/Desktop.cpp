@@ -8,6 +8,8 @@
 #include <QMessageBox>
 
 #include "basic/PlatformPath.h"
+#include "data/Backup.h"
+#include "shell/frmRestore.h"
 
 namespace tavrelin {
 
@@ -43,6 +45,11 @@ QString DesktopOperator::SaveFile(const QString& title, const QString& proposal,
                                   const QString& filter) {
   return QFileDialog::getSaveFileName(QApplication::activeWindow(), title, PlatformPath(proposal),
                                       filter);
+}
+
+int DesktopOperator::ChooseBackup(const QString& file, const QList<ClubBackup>& backups) {
+  frmRestore dialog(file, backups, QApplication::activeWindow());
+  return dialog.exec() == QDialog::Accepted ? dialog.Chosen() : -1;
 }
 
 void DesktopOperator::Beep() {

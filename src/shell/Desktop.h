@@ -13,6 +13,7 @@ class DesktopOperator : public Operator {
   void Tell(const QString& title, const QString& text) override;
   QString OpenFile(const QString& title, const QString& folder, const QString& filter) override;
   QString SaveFile(const QString& title, const QString& proposal, const QString& filter) override;
+  int ChooseBackup(const QString& file, const QList<ClubBackup>& backups) override;
   void Beep() override;
   void SetBusy(bool busy) override;
 

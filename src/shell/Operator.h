@@ -2,10 +2,13 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QList>
 #include <QString>
 #include <QUrl>
 
 namespace tavrelin {
+
+struct ClubBackup;
 
 // The seams between a screen and the outside world. The window fills them with dialogs (see
 // Surroundings in Screen.h), tests with answers prepared beforehand. None of them is owned by the
@@ -24,6 +27,9 @@ class Operator {
   /// A file to write; empty when cancelled.
   virtual QString SaveFile(const QString& title, const QString& proposal,
                            const QString& filter) = 0;
+  /// Which of a club file's backups is to take its place: its number in the list, from 0; -1 when
+  /// cancelled.
+  virtual int ChooseBackup(const QString& file, const QList<ClubBackup>& backups) = 0;
   virtual void Beep() = 0;
   /// The hourglass, on and off; not counted.
   virtual void SetBusy(bool busy) = 0;

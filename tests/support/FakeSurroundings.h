@@ -5,6 +5,7 @@
 #include <QList>
 #include <QStringList>
 
+#include "data/Backup.h"
 #include "shell/CSError.h"
 #include "shell/Operator.h"
 #include "support/QtPrinters.h"
@@ -23,8 +24,10 @@ class FakeOperator : public Operator {
   void WillAnswer(bool yes) { answers_.append(yes); }
   /// The file that the next file dialog returns; empty for Cancel.
   void WillChoose(const QString& file) { files_.append(file); }
+  /// The backup that the next list of backups returns, from 0; -1 for Cancel.
+  void WillChooseBackup(int backup) { backups_.append(backup); }
   /// Prepared answers and files that nobody asked for.
-  qsizetype Unused() const { return answers_.size() + files_.size(); }
+  qsizetype Unused() const { return answers_.size() + files_.size() + backups_.size(); }
 
   QList<Box> questions;  ///< every Yes/No box, in order
   QList<Box> told;       ///< every box with OK alone, in order
@@ -46,6 +49,12 @@ class FakeOperator : public Operator {
   QString SaveFile(const QString& title, const QString& proposal, const QString& filter) override {
     return Choose(title, proposal, filter);
   }
+  int ChooseBackup(const QString& file, const QList<ClubBackup>& backups) override {
+    dialogs.append(file + QLatin1Char('|') + QString::number(backups.size()));
+    if (!backups_.isEmpty()) return backups_.takeFirst();
+    ADD_FAILURE() << "nobody expected the list of backups";
+    return -1;
+  }
   void Beep() override { ++beeps; }
   void SetBusy(bool on) override { busy = on; }
 
@@ -59,6 +68,7 @@ class FakeOperator : public Operator {
 
   QList<bool> answers_;
   QStringList files_;
+  QList<int> backups_;
 };
 
 /// Stands still at Saturday, June 14 2025, 9:30 until a test sets it.
