@@ -45,6 +45,7 @@ bool MarginAddsUp(const Claim& one, const Claim& two) {
 struct Figure {
   QString field;
   QString message;
+  size_t side;
 };
 
 QList<Figure> FiguresOf(const PlayFormat& format) {
@@ -55,13 +56,20 @@ QList<Figure> FiguresOf(const PlayFormat& format) {
   for (size_t i = 0; i < 2; ++i) {
     const SideColumns& side = format.sides[i];
     const QString who = QStringLiteral("Invalid %1 %2 ").arg(entrant, words[i]);
-    figures << Figure{side.points, who + "points"};
+    figures << Figure{side.points, who + "points", i};
     for (const QString& ringers : side.ringers) {
       const bool alone = side.ringers.size() == 1;
-      figures << Figure{ringers, alone ? who + "ringers" : QStringLiteral("Invalid ringers")};
+      figures << Figure{ringers, alone ? who + "ringers" : QStringLiteral("Invalid ringers"), i};
     }
   }
   return figures;
+}
+
+/// Pairing leaves the pacer's figures empty, and nobody need type them.
+bool IsEmptyOfPacer(const RowValues& row, const QString& field, const PlayFormat& format,
+                    size_t side) {
+  return format.IsPacer(row.value(format.sides[side].id).Trimmed()) &&
+         row.value(field).Trimmed().isEmpty();
 }
 
 /// Walks the checks of one row in their order; each answers false once the row is decided.
@@ -161,7 +169,11 @@ class Checker {
   bool Figures() {
     if (!IsFigure(QStringLiteral("Shoes"), QStringLiteral("Invalid shoes"), true)) return false;
     for (const Figure& figure : FiguresOf(format_)) {
-      if (!IsFigure(figure.field, figure.message, format_.forgivesTypingSlips)) return false;
+      if (IsEmptyOfPacer(row_, figure.field, format_, figure.side)) {
+        check_.Fix(figure.field, 0);
+      } else if (!IsFigure(figure.field, figure.message, format_.forgivesTypingSlips)) {
+        return false;
+      }
     }
     return true;
   }
@@ -204,8 +216,9 @@ class Checker {
 QString CheckScore(const RowValues& row, double handicapPct) {
   const auto& sides = SinglesFormat().sides;
   const QString invalid = QStringLiteral("Score Checker On.  Invalid Score.");
-  for (const SideColumns& side : sides) {
-    if (!IsInt(row.value(side.singlePoints))) return invalid;
+  for (size_t i = 0; i < 2; ++i) {
+    const QString& field = sides[i].singlePoints;
+    if (!IsInt(row.value(field)) && !IsEmptyOfPacer(row, field, SinglesFormat(), i)) return invalid;
   }
   const Claim one = ClaimOf(row, sides[0]);
   const Claim two = ClaimOf(row, sides[1]);

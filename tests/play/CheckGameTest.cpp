@@ -384,5 +384,22 @@ TEST_F(CheckTeamGameTest, ANewRowTakesZeroForWhatIsEmptyButNotForASlip) {
   EXPECT_EQ(FixOf(Check(With(row_, {{"Shoes", "x"}})), "Shoes"), "0");
 }
 
+TEST_F(CheckGameTest, ThePacersEmptyFiguresNeedNotBeTyped) {
+  const Typed pacer = {
+      {"PlayerOneID", "000001"},    {"PlayerOnePoints", 30},       {"PlayerOneRingers", 10},
+      {"PlayerOneSinglePoints", 0}, {"PlayerTwoID", "PPPPPP"},     {"PlayerTwoPoints", {}},
+      {"PlayerTwoRingers", {}},     {"PlayerTwoSinglePoints", {}}, {"Shoes", 40}};
+  for (const bool checker : {false, true}) {
+    checker_ = checker;
+    const RowCheck check = Check(With(row_, pacer));
+    EXPECT_EQ(check.verdict, RowCheck::Verdict::Save) << check.message.toStdString();
+    EXPECT_EQ(FixOf(check, "PlayerTwoPoints"), "0");
+    EXPECT_EQ(FixOf(check, "PlayerTwoRingers"), "0");
+  }
+  EXPECT_EQ(Message(With(pacer, {{"PlayerOnePoints", {}}})), "Score Checker On.  Invalid Score.");
+  checker_ = false;
+  EXPECT_EQ(Message(With(pacer, {{"PlayerOnePoints", {}}})), "Invalid player one points");
+}
+
 }  // namespace
 }  // namespace tavrelin
