@@ -361,7 +361,13 @@ TEST_F(CheckTeamGameTest, ATeamThatIsNotEnteredCannotBeChosen) {
   EXPECT_EQ(Message({{"TeamTwoID", 8}, {"TeamOneID", ""}}), "Invalid Team One.");
 }
 
+TEST_F(CheckTeamGameTest, APacerTeamsEmptyFiguresNeedNotBeTyped) {
+  for (const char* field : {"TeamTwoPoints", "TeamTwoPlayerOneRingers", "TeamTwoPlayerTwoRingers"})
+    EXPECT_EQ(FixOf(Check(With(row_, {{field, {}}})), field), "0");
+}
+
 TEST_F(CheckTeamGameTest, EachFigureHasItsMessage) {
+  row_["TeamTwoID"] = 7;  // a pacer's figures may stay empty
   const QPair<const char*, const char*> cases[] = {
       {"TeamTwoID", "Invalid Team Two."},
       {"Game", "Invalid game number"},
