@@ -1,4 +1,4 @@
-// The screens of players on a disk that fails: what is typed stays until it is in the file.
+// Screens on a disk that fails: what is typed stays until it is in the file.
 
 #include <gtest/gtest.h>
 
@@ -8,10 +8,13 @@
 #include "controls/GridEX.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
+#include "play/uctPlayTime.h"
+#include "players/uctProfile.h"
 #include "players/uctScores.h"
 #include "players/uctTeam.h"
 #include "support/FaultBench.h"
 #include "support/ScreenBench.h"
+#include "tournament/uctEntrants.h"
 
 namespace tavrelin {
 namespace {
@@ -76,6 +79,46 @@ TEST_F(PlayerFaultsChild, DISABLED_PutsAPlayerOnATeam) {
   EXPECT_EQ(bench.Message(), "");
 }
 
+TEST_F(PlayerFaultsChild, DISABLED_TypesAPlayer) {
+  bench.Show<uctProfile>();
+  GridEX& roster = Grid("grdProfile");
+  roster.MoveToNewRow();
+  for (const auto& [field, value] : QList<QPair<QString, QString>>{
+           {"FirstName", "John"}, {"LastName", "Smith"}, {"Category", "AM"}, {"State", "MN"}})
+    roster.SetValue(field, value);
+  roster.CommitRow();
+  Retry(roster, "LastName", "Smith");
+}
+
+TEST_F(PlayerFaultsChild, DISABLED_EntersAPlayer) {
+  bench.store().SaveRegistryString({}, "RecentTournament", "MN-25-C03");
+  bench.Show<uctEntrants>();
+  Enter("GridEX1");
+  if (!Refused()) return;
+  EXPECT_EQ(Grid("GridEX2").RowCount(), 2);
+  Enter("GridEX1");
+  EXPECT_EQ(bench.Message(), "");
+}
+
+TEST_F(PlayerFaultsChild, DISABLED_TypesAGame) {
+  bench.store().SaveRegistryString({}, "RecentTournament", "MN-25-C03");
+  bench.Show<uctPlayTime>();
+  bench.Click("cmdLoad");
+  GridEX& games = Grid("GridEX1");
+  games.MoveToNewRow();
+  for (const auto& [field, value] : QList<QPair<QString, Value>>{{"Game", 1},
+                                                                 {"Court", "  9"},
+                                                                 {"Shoes", 40},
+                                                                 {"PlayerOneID", "YOUWIL"},
+                                                                 {"PlayerOnePoints", 31},
+                                                                 {"PlayerTwoID", "ZIMWAL"},
+                                                                 {"PlayerTwoPoints", 22},
+                                                                 {"Approved", true}})
+    games.SetValue(field, value);
+  games.CommitRow();
+  Retry(games, "PlayerOnePoints", "31");
+}
+
 struct Strike {
   const char* worker;
   const char* table;
@@ -95,10 +138,32 @@ class PlayerFaults : public testing::TestWithParam<Strike> {
           "INSERT INTO Players (PlayerID, LastName, FirstName, Category) "
           "VALUES ('OLSKAR', 'Olson', 'Karen', 'AW')");
       club.Execute("INSERT INTO Teams (Team) VALUES ('Ringers')");
+      if (QLatin1String(GetParam().table).startsWith(QLatin1String("T"))) AddClass(club);
     }
     fault_.SetVariable(FileName, copy_);
     fault_.SetVariable("ASAN_OPTIONS", "detect_leaks=0");  // it cannot look under strace
     before_ = Rows(clubs_.ClubFile());
+  }
+  /// A singles class of two with one game.
+  static void AddClass(Connection& club) {
+    club.Execute(
+        "INSERT INTO Tournaments (SanctionID, Name, Date) VALUES ('MN25C03', NULL, #6/20/2025#)");
+    club.Execute(
+        "INSERT INTO TournamentClasses (SanctionID, ClassID, PlayFormat, RankMethod) "
+        "VALUES ('MN25C03', 'A', 'S', 'P')");
+    for (const char* id : {"YOUWIL", "ZIMWAL"}) {
+      club.Execute(
+          "INSERT INTO Players (PlayerID, LastName, FirstName, Category) VALUES (?, ?, 'W', "
+          "'AM')",
+          {id, id});
+      club.Execute(
+          "INSERT INTO TournamentEntrants (SanctionID, PlayerID, ClassID) "
+          "VALUES ('MN25C03', ?, 'A')",
+          {id});
+    }
+    club.Execute(
+        "INSERT INTO TournamentSinglesRR (SanctionID, ClassID, Game, Court, PlayerOneID, "
+        "PlayerTwoID) VALUES ('MN25C03', 'A', 1, '  1', 'YOUWIL', 'ZIMWAL')");
   }
   void FreshCopy() const {
     QFile::remove(copy_);
@@ -155,7 +220,10 @@ TEST_P(PlayerFaults, KilledAtAWriteTheRowIsThereWholeOrNotAtAll) {
 INSTANTIATE_TEST_SUITE_P(Rows, PlayerFaults,
                          testing::Values(Strike{"TypesAScore", "PlayerScores"},
                                          Strike{"NamesATeam", "Teams"},
-                                         Strike{"PutsAPlayerOnATeam", "TeamPlayers"}),
+                                         Strike{"PutsAPlayerOnATeam", "TeamPlayers"},
+                                         Strike{"TypesAPlayer", "Players"},
+                                         Strike{"EntersAPlayer", "TournamentEntrants"},
+                                         Strike{"TypesAGame", "TournamentSinglesRR"}),
                          [](const auto& test) { return std::string(test.param.worker); });
 
 }  // namespace
