@@ -3,8 +3,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QCompleter>
 #include <QKeyEvent>
+#include <QLineEdit>
 
 #include "basic/Conversions.h"
 #include "controls/DateEdit.h"
@@ -55,7 +55,6 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
   if (QLineEdit* line = LineOf(editor_)) {
     line->setMaxLength(column.maxLength > 0 ? column.maxLength : 32767);
     line->setAlignment(column.editor == CellEditor::Number ? Qt::AlignRight : column.alignment);
-    if (line != editor_) line->installEventFilter(const_cast<GridDelegate*>(this));
   }
   editor_->setObjectName(QStringLiteral("CellEditor"));
   const QVariant caption =
@@ -72,14 +71,10 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
 
 QWidget* GridDelegate::CreateList(QWidget* parent, const QModelIndex& index) const {
   const GridColumn& column = core_.model.Column(index.column());
-  auto* combo = new ListEdit(parent);
+  auto* combo = new ListEdit(column.editor == CellEditor::Combo, parent);
   combo->setInsertPolicy(QComboBox::NoInsert);
   combo->setMaxVisibleItems(14);
   for (const ValueItem& item : column.values.Items()) combo->addItem(item.text);
-  if (column.editor == CellEditor::Combo) {
-    combo->setEditable(true);
-    combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
-  }
   // A choice from the open list ends the edit: that is what it was opened for.
   connect(combo, &ListEdit::Chosen, this, [this, combo] {
     if (editor_ == combo) core_.CloseCell(true);
@@ -165,7 +160,7 @@ bool GridDelegate::Filter(QLineEdit* line, QKeyEvent* event) {
 bool GridDelegate::eventFilter(QObject* object, QEvent* event) {
   if (!Editor()) return false;
   if (event->type() == QEvent::KeyPress) {
-    return KeyInEditor(object, static_cast<QKeyEvent*>(event));
+    return KeyInEditor(static_cast<QKeyEvent*>(event));
   }
   if (event->type() == QEvent::FocusOut) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
@@ -180,7 +175,7 @@ bool GridDelegate::eventFilter(QObject* object, QEvent* event) {
          QStyledItemDelegate::eventFilter(object, event);
 }
 
-bool GridDelegate::KeyInEditor(QObject* object, QKeyEvent* event) {
+bool GridDelegate::KeyInEditor(QKeyEvent* event) {
   auto* combo = qobject_cast<QComboBox*>(Editor());
   const bool list = combo != nullptr;
   switch (event->key()) {
@@ -208,7 +203,7 @@ bool GridDelegate::KeyInEditor(QObject* object, QKeyEvent* event) {
     default:
       break;
   }
-  auto* line = qobject_cast<QLineEdit*>(object);
+  QLineEdit* line = LineOf(Editor());
   return line && Filter(line, event);
 }
 

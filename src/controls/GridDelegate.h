@@ -49,7 +49,7 @@ class GridDelegate : public QStyledItemDelegate {
                  const QModelIndex& index) override;
 
  private:
-  bool KeyInEditor(QObject* object, QKeyEvent* event);
+  bool KeyInEditor(QKeyEvent* event);
   bool Leave(QKeyEvent* event);
   bool Filter(QLineEdit* line, QKeyEvent* event);
   void PaintContent(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,

@@ -1,36 +1,42 @@
 #pragma once
 
 #include <QComboBox>
-#include <QKeyEvent>
-#include <QWheelEvent>
+#include <QPointer>
+
+class QListWidget;
 
 namespace tavrelin {
 
 /// The drop-down of a cell. A choice from the open list is a decision, told by Chosen; walking the
 /// codes with the keys is not.
+///
+/// Made editable, it suggests the texts that begin with what is typed, hyphens and blanks left
+/// aside. The suggestions lie in the same window and never take the keys: Up and Down bring one
+/// into the cell, a click chooses it, typing on disregards them.
 class ListEdit : public QComboBox {
   Q_OBJECT
 
  public:
-  explicit ListEdit(QWidget* parent) : QComboBox(parent) {
-    connect(this, &QComboBox::activated, this, [this] {
-      if (!byKey_) Q_EMIT Chosen();
-    });
-  }
+  ListEdit(bool editable, QWidget* parent);
+  ~ListEdit() override;
 
  Q_SIGNALS:
   void Chosen();
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    byKey_ = true;
-    QComboBox::keyPressEvent(event);
-    byKey_ = false;
-  }
+  void keyPressEvent(QKeyEvent* event) override;
   // The wheel scrolls the grid; it must not change a code under the pointer.
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+  void wheelEvent(QWheelEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
+  void Suggest(const QString& typed);
+  QStringList Matches(const QString& typed) const;
+  void PlaceSuggestions();
+  bool Walk(int key);
+
+  // A child of the window, which may end first.
+  QPointer<QListWidget> suggestions_;
   bool byKey_ = false;
 };
 

@@ -2,43 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <QFile>
-
-#include "controls/GridEX.h"
-#include "data/Connection.h"
 #include "data/Recordset.h"
 #include "play/uctPlayTime.h"
 #include "players/uctProfile.h"
 #include "players/uctScores.h"
 #include "players/uctTeam.h"
-#include "support/FaultBench.h"
-#include "support/ScreenBench.h"
+#include "screens/StruckClub.h"
 #include "tournament/uctEntrants.h"
 
 namespace tavrelin {
 namespace {
 
-constexpr const char* FileName = "TAVRELIN_FAULT_FILE";
-
-/// What the struck process does: this program again, one of these tests alone, on a club's file
-/// that is there already. Every row is tried twice at most.
-struct PlayerFaultsChild : testing::Test {
-  ScreenBench bench{qEnvironmentVariable(FileName)};
-
-  GridEX& Grid(const char* name) { return bench.Find<GridEX>(name); }
-  void Enter(const char* grid) {
-    bench.Focus(grid);
-    Grid(grid).SetRow(1);
-    bench.Press(Qt::Key_Return);
-  }
-  // True, and the error taken, when the file would not have the row.
-  bool Refused() {
-    if (bench.errors.Count() == 0) return false;
-    EXPECT_NE(bench.errors.Take().description, "");
-    std::puts("refused");
-    return true;
-  }
+struct PlayerFaultsChild : StruckChild {
   // The row that a grid would not save is whole and can be saved at the next try.
   void Retry(GridEX& grid, const char* column, const char* typed) {
     if (!Refused()) return;
@@ -130,46 +105,6 @@ void PrintTo(const Strike& strike, std::ostream* out) {
 
 class PlayerFaults : public testing::TestWithParam<Strike> {
  protected:
-  void SetUp() override {
-    {
-      Connection club;
-      club.Open(ConnectString);
-      club.Execute(
-          "INSERT INTO Players (PlayerID, LastName, FirstName, Category) "
-          "VALUES ('OLSKAR', 'Olson', 'Karen', 'AW')");
-      club.Execute("INSERT INTO Teams (Team) VALUES ('Ringers')");
-      if (QLatin1String(GetParam().table).startsWith(QLatin1String("T"))) AddClass(club);
-    }
-    fault_.SetVariable(FileName, copy_);
-    fault_.SetVariable("ASAN_OPTIONS", "detect_leaks=0");  // it cannot look under strace
-    before_ = Rows(clubs_.ClubFile());
-  }
-  /// A singles class of two with one game.
-  static void AddClass(Connection& club) {
-    club.Execute(
-        "INSERT INTO Tournaments (SanctionID, Name, Date) VALUES ('MN25C03', NULL, #6/20/2025#)");
-    club.Execute(
-        "INSERT INTO TournamentClasses (SanctionID, ClassID, PlayFormat, RankMethod) "
-        "VALUES ('MN25C03', 'A', 'S', 'P')");
-    for (const char* id : {"YOUWIL", "ZIMWAL"}) {
-      club.Execute(
-          "INSERT INTO Players (PlayerID, LastName, FirstName, Category) VALUES (?, ?, 'W', "
-          "'AM')",
-          {id, id});
-      club.Execute(
-          "INSERT INTO TournamentEntrants (SanctionID, PlayerID, ClassID) "
-          "VALUES ('MN25C03', ?, 'A')",
-          {id});
-    }
-    club.Execute(
-        "INSERT INTO TournamentSinglesRR (SanctionID, ClassID, Game, Court, PlayerOneID, "
-        "PlayerTwoID) VALUES ('MN25C03', 'A', 1, '  1', 'YOUWIL', 'ZIMWAL')");
-  }
-  void FreshCopy() const {
-    QFile::remove(copy_);
-    QFile::remove(copy_ + "-journal");
-    ASSERT_TRUE(QFile::copy(clubs_.ClubFile(), copy_));
-  }
   qint64 Rows(const QString& path) const {
     Connection club;
     club.Open("DBQ=" + path);
@@ -181,20 +116,18 @@ class PlayerFaults : public testing::TestWithParam<Strike> {
     return FaultBench::Worker(QStringLiteral("PlayerFaultsChild.DISABLED_") + GetParam().worker);
   }
 
-  ScreenBench clubs_;
-  const QString copy_ = clubs_.PathOf("copy.mdb");
-  FaultBench fault_;
-  qint64 before_ = 0;
+  StruckClub club_;
+  const qint64 before_ = Rows(club_.clubs.ClubFile());
 };
 
 TEST_P(PlayerFaults, AFullDiskIsToldTheInputStaysAndTheNextTrySavesIt) {
   int refusals = 0;
   for (int write = 1; write <= 4; ++write) {
-    FreshCopy();
-    const FaultBench::Outcome outcome = fault_.FailAt(write, "ENOSPC", Worker());
+    club_.FreshCopy();
+    const FaultBench::Outcome outcome = club_.fault.FailAt(write, "ENOSPC", Worker());
     if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";
     EXPECT_EQ(outcome.exitCode, 0) << "write " << write << ": " << outcome.output.toStdString();
-    EXPECT_EQ(Rows(copy_), before_ + 1) << "write " << write;
+    EXPECT_EQ(Rows(club_.copy), before_ + 1) << "write " << write;
     refusals += outcome.output.contains("refused");
   }
   EXPECT_GE(refusals, 3);
@@ -203,10 +136,10 @@ TEST_P(PlayerFaults, AFullDiskIsToldTheInputStaysAndTheNextTrySavesIt) {
 TEST_P(PlayerFaults, KilledAtAWriteTheRowIsThereWholeOrNotAtAll) {
   int strikes = 0;
   for (int write = 1; write < 40; ++write) {
-    FreshCopy();
-    const FaultBench::Outcome outcome = fault_.KillAt(write, Worker());
+    club_.FreshCopy();
+    const FaultBench::Outcome outcome = club_.fault.KillAt(write, Worker());
     if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";
-    const qint64 rows = Rows(copy_);
+    const qint64 rows = Rows(club_.copy);
     if (!outcome.killed) {
       EXPECT_EQ(rows, before_ + 1);
       break;
