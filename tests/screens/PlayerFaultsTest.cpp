@@ -8,6 +8,7 @@
 #include "players/uctScores.h"
 #include "players/uctTeam.h"
 #include "screens/StruckClub.h"
+#include "support/PlainDatabase.h"
 #include "tournament/uctEntrants.h"
 
 namespace tavrelin {
@@ -140,6 +141,7 @@ TEST_P(PlayerFaults, KilledAtAWriteTheRowIsThereWholeOrNotAtAll) {
     const FaultBench::Outcome outcome = club_.fault.KillAt(write, Worker());
     if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";
     const qint64 rows = Rows(club_.copy);
+    EXPECT_EQ(PlainDatabase(club_.copy).Cell("PRAGMA integrity_check"), "ok") << "write " << write;
     if (!outcome.killed) {
       EXPECT_EQ(rows, before_ + 1);
       break;
