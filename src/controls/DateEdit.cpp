@@ -46,6 +46,8 @@ void DateEdit::DropDown() {
   auto* calendar = new QCalendarWidget(popup);
   calendar->setObjectName(QStringLiteral("Calendar"));
   calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+  calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  calendar->setGridVisible(false);
   const auto typed = ReadDate(text());
   if (typed) calendar->setSelectedDate(typed->date());
   auto* layout = new QVBoxLayout(popup);

@@ -62,9 +62,10 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
   editor_->setAccessibleName(caption.toString());
   editor_->setAutoFillBackground(true);
   if (qobject_cast<QLineEdit*>(editor_)) {
+    // Named, so that the calendar that a date cell drops keeps the look of a calendar.
     editor_->setStyleSheet(
-        QStringLiteral("border: 3px solid palette(highlight);"
-                       "background: palette(base); padding-left: 5px;"));
+        QStringLiteral("#CellEditor { border: 3px solid palette(highlight);"
+                       "background: palette(base); padding-left: 5px; }"));
   }
   return editor_;
 }

@@ -389,6 +389,19 @@ TEST_F(GridEditTest, ADateIsTypedOrPicked) {
   EXPECT_EQ(bench.rows.CellAt(1, bench.rows.FieldIndex("BirthDate")), Value(QDate(1976, 7, 5)));
 }
 
+TEST_F(GridEditTest, TheCalendarOfADateCellLooksLikeACalendar) {
+  grid.SetCol("BirthDate");
+  bench.Press(Qt::Key_F4);
+  QWidget* popup = QApplication::activePopupWidget();
+  ASSERT_TRUE(popup);
+  auto* bar = popup->findChild<QWidget*>("qt_calendar_navigationbar");
+  ASSERT_TRUE(bar);
+  // The month and the year are written in light on the accent colour: it must lie beneath them.
+  const QImage picture = bar->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(picture.width() / 5, 6), bar->palette().color(QPalette::Highlight));
+  popup->close();
+}
+
 TEST_F(GridEditTest, WhatIsNoDateStaysAsTypedForTheChecksOfTheRow) {
   TypeInto(1, "BirthDate", "soon");
   bench.Press(Qt::Key_Tab);
