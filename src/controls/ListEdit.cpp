@@ -1,5 +1,6 @@
 #include "controls/ListEdit.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -56,10 +57,33 @@ ListEdit::~ListEdit() {
 }
 
 void ListEdit::keyPressEvent(QKeyEvent* event) {
-  if (Walk(event->key())) return;
+  if (Walk(event->key()) || Search(event->text())) return;
   byKey_ = true;
   QComboBox::keyPressEvent(event);
   byKey_ = false;
+}
+
+// True when the text was a part of a word.
+bool ListEdit::Search(const QString& typed) {
+  if (isEditable() || typed.isEmpty() || !typed[0].isPrint()) return false;
+  const bool begins = !pause_.isValid() || pause_.elapsed() > QApplication::keyboardInputInterval();
+  if (begins && typed == QLatin1String(" ")) return false;
+  searched_ = begins ? typed : searched_ + typed;
+  pause_.start();
+  int found = findText(searched_, Qt::MatchStartsWith);
+  if (found < 0 && searched_.count(typed, Qt::CaseInsensitive) == searched_.size()) {
+    found = NextAfter(typed);
+  }
+  if (found >= 0) setCurrentIndex(found);
+  return true;
+}
+
+int ListEdit::NextAfter(const QString& start) const {
+  for (int step = 1; step <= count(); ++step) {
+    const int index = (currentIndex() + step) % count();
+    if (itemText(index).startsWith(start, Qt::CaseInsensitive)) return index;
+  }
+  return -1;
 }
 
 void ListEdit::wheelEvent(QWheelEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QPointer>
 
 class QListWidget;
@@ -8,7 +9,8 @@ class QListWidget;
 namespace tavrelin {
 
 /// The drop-down of a cell. A choice from the open list is a decision, told by Chosen; walking the
-/// codes with the keys is not.
+/// codes with the keys is not. Typing goes to the text that begins so, however slowly, blanks
+/// included; the same letter again goes to the next text with it.
 ///
 /// Made editable, it suggests the texts that begin with what is typed, hyphens and blanks left
 /// aside. The suggestions lie in the same window and never take the keys: Up and Down bring one
@@ -30,6 +32,8 @@ class ListEdit : public QComboBox {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  bool Search(const QString& typed);
+  int NextAfter(const QString& start) const;
   void Suggest(const QString& typed);
   QStringList Matches(const QString& typed) const;
   void PlaceSuggestions();
@@ -37,6 +41,8 @@ class ListEdit : public QComboBox {
 
   // A child of the window, which may end first.
   QPointer<QListWidget> suggestions_;
+  QString searched_;
+  QElapsedTimer pause_;
   bool byKey_ = false;
 };
 

@@ -48,6 +48,14 @@ bool FindSameCard(const RowValues& row, bool newRow, Recordset& players) {
   return !players.AtEnd();
 }
 
+// The grid would hand these to the file as they were typed.
+void CheckNumbers(const RowValues& row, RowCheck& check) {
+  const Value years = row.value("Longevity"), average = row.value("Average");
+  if (IsBlank(years)) check.Fix("Longevity", 0);
+  if (!IsBlank(years) && !IsInt(years)) check.Refuse("Invalid years");
+  if (!IsBlank(average) && !IsNumeric(average)) check.Refuse("Invalid ringer percent");
+}
+
 /// What is said of these does not end the check: the operator hears of the last one.
 void CheckFigures(const RowValues& row, RowCheck& check) {
   NullBecomesEmpty(check, "CardYear", row);
@@ -55,7 +63,7 @@ void CheckFigures(const RowValues& row, RowCheck& check) {
   if (!IsBlank(row.value("CardYear")) && (year < FirstCardYear || year > LastCardYear)) {
     check.Refuse("Invalid card year");
   }
-  if (IsBlank(row.value("Longevity"))) check.Fix("Longevity", 0);
+  CheckNumbers(row, check);
   if (!IsBlank(row.value("BirthDate")) && !IsDate(row.value("BirthDate")))
     check.Refuse("Invalid birth date");
 }

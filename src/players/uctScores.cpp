@@ -273,7 +273,8 @@ void uctScores::FillInPlayer() {
 
 void uctScores::GridEX2_AfterColEdit(GridColEdit& event) {
   if (event.column == "SanctionID") {
-    GridEX2_->SetValue("SanctionID", CleanSanction(GridEX2_->Value("SanctionID").ToText()));
+    const QString typed = GridEX2_->Value("SanctionID").ToText();
+    GridEX2_->SetValue("SanctionID", CleanSanction(typed).remove(u' '));
   } else if (event.column == "Shoes" || event.column == "Ringers") {
     GridEX2_->SetValue("Pct", RingerPercent(GridEX2_->Value("Ringers"), GridEX2_->Value("Shoes")));
   }

@@ -16,6 +16,8 @@ namespace tavrelin {
 
 namespace {
 
+constexpr int SearchPause = 1500;  // milliseconds
+
 QFont LargeEnough(QFont font) {
   if (font.pointSizeF() < Application::SmallestFont) {
     font.setPointSizeF(Application::SmallestFont);
@@ -38,6 +40,8 @@ void UseTheLook() {
   LoadPictures();
   QApplication::setStyle(QStringLiteral("Fusion"));
   QApplication::setFont(LargeEnough(QApplication::font()));
+  // In a list of states, "M" and a little later "N" mean MN, not the first one with an N.
+  QApplication::setKeyboardInputInterval(SearchPause);
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tavrelin.svg")));
 }
 

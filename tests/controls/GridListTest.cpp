@@ -148,5 +148,29 @@ TEST_F(GridListTest, ATypedLetterOfAListAndATabTakeTheCellOver) {
   ExpectTypingGoesOn();
 }
 
+TEST_F(GridListTest, AListIsSearchedByAllThatIsTypedBlanksIncluded) {
+  const struct {
+    const char *typed, *code;
+  } cases[] = {{"sr w", "SW"}, {"s", "SM"},    {"ss", "SW"},
+               {"sss", "SM"},  {"SR M", "SM"}, {"wx", "W"}};
+  grid.SetValueList("MembershipType",
+                    {{"L", "Lifetime"}, {"W", "Women"}, {"SM", "Sr Men"}, {"SW", "Sr Women"}});
+  for (const auto& c : cases) {
+    grid.SetCol("MembershipType");
+    bench.Type(c.typed);
+    bench.Press(Qt::Key_Tab);
+    EXPECT_EQ(grid.Value("MembershipType"), Value(c.code)) << c.typed;
+    ExpectTypingGoesOn();
+  }
+}
+
+TEST_F(GridListTest, ABlankAloneOpensTheList) {
+  grid.SetCol("MembershipType");
+  bench.Type(" ");
+  ASSERT_TRUE(Open());
+  EXPECT_TRUE(Open()->view()->isVisible());
+  QTest::keyClick(Open()->view(), Qt::Key_Escape);
+}
+
 }  // namespace
 }  // namespace tavrelin

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include "controls/GridEX.h"
 #include "data/Connection.h"
@@ -104,6 +106,68 @@ TEST_F(uctProfileTest, ColumnsStandInTheirPlacesWithTheirCaptions) {
                 {"ID",         "First",   "Last",       "Type",   "Division",       "Card",  "Year",
                  "Yrs",        "Rgr %",   "Birth Date", "Phone",  "Address",        "City",  "St",
                  "Zip-Postal", "Remarks", "Cell Phone", "E-Mail", "Emergency Info", "Awards"}));
+}
+
+TEST_F(uctProfileTest, ColumnsHaveTheirWidthsAndLengths) {
+  Show();
+  QStringList columns;
+  for (const GridColumn& column : Grid().Columns().mid(1)) {
+    columns << QString("%1 %2").arg(column.field).arg(column.width);
+  }
+  EXPECT_EQ(columns.join(", "),
+            "FirstName 1005, LastName 1200, MembershipType 1005, Category 1005, CardNumber 705, "
+            "CardYear 645, AddressOne 1860, City 1395, State 600, ZipCode 1050, Longevity 525, "
+            "BirthDate 1140, Telephone 1200, Remarks 2805, Average 705, CellPhone 1200, "
+            "Email 2505, EmergencyInfo 2805, Awards 2805");
+  EXPECT_FALSE(Grid().Columns()[0].visible);
+  const QMap<QString, int> lengths = {{"PlayerID", 6},   {"FirstName", 20}, {"LastName", 25},
+                                      {"CardNumber", 6}, {"CardYear", 4},   {"AddressOne", 40},
+                                      {"City", 30}};
+  for (auto length = lengths.begin(); length != lengths.end(); ++length) {
+    EXPECT_EQ(Grid().Columns()[Grid().ColumnNumber(length.key()) - 1].maxLength, length.value());
+  }
+}
+
+TEST_F(uctProfileTest, TheFooterCountsTheRecordsAndABufferLivesForASecondAndAHalf) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  EXPECT_EQ(bench.Find<QLabel>("RecordCounter").text(), "New record, 1 records");
+  OnRowSelector("BERPIA");
+  EXPECT_EQ(bench.Find<QLabel>("RecordCounter").text(), "Record 1 of 1 records");
+  EXPECT_EQ(Grid().findChild<QTimer*>("Timer1")->interval(), 1500);
+}
+
+TEST_F(uctProfileTest, DivisionAndStateAreTypedByTheirLettersHoweverSlowly) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Grid().SetCol("Category");
+  bench.Type("sr w");
+  bench.Press(Qt::Key_Tab);
+  EXPECT_EQ(Grid().Value("Category"), Value("SW"));
+  Grid().SetCol("State");
+  bench.Type("w");
+  QTest::qWait(900);
+  bench.Type("i");
+  bench.Press(Qt::Key_Tab);
+  EXPECT_EQ(Grid().Value("State"), Value("WI"));
+  ASSERT_TRUE(Grid().CommitRow());
+}
+
+TEST_F(uctProfileTest, WhatIsNoNumberIsRefusedInTheFirstPanelNotByAnError) {
+  Add("BERPIA", "Berg", "Pia");
+  Show();
+  GoTo("BERPIA");
+  Fill({{"Longevity", "many"}});
+  EXPECT_FALSE(Grid().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid years");
+  Fill({{"Longevity", "12"}, {"Average", "45.x"}});
+  EXPECT_FALSE(Grid().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid ringer percent");
+  Fill({{"Average", "45.5"}});
+  EXPECT_TRUE(Grid().CommitRow());
+  EXPECT_EQ(Stored("Longevity", "BERPIA"), Value(12));
+  EXPECT_EQ(Stored("Average", "BERPIA"), Value(45.5));
 }
 
 TEST_F(uctProfileTest, ANewPlayerTypedFromTheKeyboardIsSavedWithItsNumber) {

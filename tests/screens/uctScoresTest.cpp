@@ -188,6 +188,26 @@ TEST_F(uctScoresTest, ARowTypedUpToTheLastFigureIsSavedOnLeavingIt) {
   EXPECT_EQ(Stored("Ringers", "MN25B02"), Value(30));
 }
 
+TEST_F(uctScoresTest, ASanctionNumberIsItsLettersAndDigitsHoweverItIsTyped) {
+  ShowOlson();
+  for (const char* typed : {"mn 25 b02", "mn-25-b02", "MN25B02", "mn/25.b02"}) {
+    TypeNew({{"SanctionID", typed}, {"Shoes", "100"}, {"Ringers", "30"}});
+    EXPECT_EQ(Message(), "") << typed;
+    EXPECT_EQ(Stored("Shoes", "MN25B02"), Value(100)) << typed;
+    file.Execute("DELETE FROM PlayerScores WHERE SanctionID = 'MN25B02'");
+    Choose("OLSKAR");
+    bench.Focus("GridEX2");
+  }
+}
+
+TEST_F(uctScoresTest, ASanctionNumberArrivesInCapitalsAndEndsAtNineCharacters) {
+  ShowOlson();
+  bench.Press(Qt::Key_Insert);
+  bench.Type("mn-25-b029");
+  EXPECT_EQ(Scores().findChild<QComboBox*>("CellEditor")->currentText(), "MN-25-B02");
+  bench.Press(Qt::Key_Escape);
+}
+
 TEST_F(uctScoresTest, WinsLossesPlaceAndHighGameAreZeroUnlessTyped) {
   ShowOlson();
   TypeNew({{"SanctionID", "MN25B02"}, {"Shoes", "100"}, {"Ringers", "30"}});
