@@ -186,7 +186,7 @@ void CardView::paintEvent(QPaintEvent* event) {
     PaintCard(painter, line);
   }
   if (core_.model.Rows().Records() > 0 || emptyText_.isEmpty()) return;
-  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.setPen(GridDelegate::HintColor(palette()));
   const int top = lines > 0 ? CardStep().height() + Gap : Gap;
   painter.drawText(viewport()->rect().adjusted(16, top, -16, -16),
                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);

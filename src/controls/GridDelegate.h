@@ -31,6 +31,9 @@ class GridDelegate : public QStyledItemDelegate {
   /// Drops down the list or the calendar of the open cell.
   void DropDown();
   static int RowHeight(const QWidget& widget);
+  /// Of what an empty grid says: quieter than its rows, and read as well while the grid is switched
+  /// off, when it tells how to switch it on.
+  static QColor HintColor(const QPalette& palette);
 
   /// The head of a card: the row's mark and number, or a heading's text.
   void PaintCardHead(QPainter* painter, const QStyleOptionViewItem& option, int line) const;

@@ -139,6 +139,11 @@ bool DropsDown(CellEditor editor) {
 
 }  // namespace
 
+QColor GridDelegate::HintColor(const QPalette& palette) {
+  return Blend(palette.color(QPalette::Active, QPalette::Base),
+               palette.color(QPalette::Active, QPalette::Text), 70);
+}
+
 int GridDelegate::RowHeight(const QWidget& widget) {
   return qMax(32 * widget.logicalDpiY() / 96, widget.fontMetrics().height() + 14);
 }

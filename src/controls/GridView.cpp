@@ -118,7 +118,7 @@ void GridView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   if (core_.model.Rows().Records() > 0 || emptyText_.isEmpty()) return;
   QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.setPen(GridDelegate::HintColor(palette()));
   const int top = core_.model.rowCount() * verticalHeader()->defaultSectionSize();
   painter.drawText(viewport()->rect().adjusted(16, top + 16, -16, -16),
                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);
