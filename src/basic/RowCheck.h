@@ -20,6 +20,7 @@ struct RowCheck {
     Save,     ///< nothing stands against it
     Cancel,   ///< the operator stays on the row to mend it
     Discard,  ///< the row's changes are thrown away
+    Undo,     ///< the same, and the operator stays on the row
     Ask,      ///< Yes or No first; then the rule is asked again with the answer
   };
 
@@ -40,6 +41,11 @@ struct RowCheck {
   }
   RowCheck& Drop(const QString& text = {}) {
     verdict = Verdict::Discard;
+    message = text;
+    return *this;
+  }
+  RowCheck& UndoAndStay(const QString& text) {
+    verdict = Verdict::Undo;
     message = text;
     return *this;
   }

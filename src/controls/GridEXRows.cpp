@@ -9,8 +9,9 @@
 namespace tavrelin {
 
 void GridUpdate::Obey(const RowCheck& check) {
-  if (check.verdict == RowCheck::Verdict::Cancel) cancel = true;
-  if (check.verdict == RowCheck::Verdict::Discard) dataChanged = false;
+  const bool undo = check.verdict == RowCheck::Verdict::Undo;
+  if (undo || check.verdict == RowCheck::Verdict::Cancel) cancel = true;
+  if (undo || check.verdict == RowCheck::Verdict::Discard) dataChanged = false;
 }
 
 // Rows ------------------------------------------------------------------------------------------

@@ -95,6 +95,12 @@ QList<TournamentChoice> TournamentChoices(Connection& connection) {
   return choices;
 }
 
+std::optional<TournamentChoice> FindTournament(Connection& connection, const QString& sanctionID) {
+  for (const TournamentChoice& choice : TournamentChoices(connection))
+    if (choice.sanctionID.compare(sanctionID, Qt::CaseInsensitive) == 0) return choice;
+  return {};
+}
+
 QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
                            const QString& playFormat) {
   Recordset rows;
@@ -211,6 +217,21 @@ RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID) {
 RowCheck CheckEntry(const RowValues& row) {
   const QString broken = BrokenEntryRule(row);
   return RefusedIf(broken.isEmpty() ? BrokenShoesRule(row) : broken);
+}
+
+RowCheck CheckClassChange(Recordset& entries, Recordset::Bookmark own, const RowValues& row) {
+  RowCheck check;
+  const QString player = row.value("PlayerID").Trimmed();
+  const QString classID = row.value("ClassID").Trimmed();
+  if (!entries.GoTo(own) || entries["ClassID"].Trimmed() == classID) return check;
+  for (entries.MoveFirst(); !entries.AtEnd(); entries.MoveNext()) {
+    const bool same =
+        entries["PlayerID"].Trimmed() == player && entries["ClassID"].Trimmed() == classID;
+    if (!same || entries.CurrentBookmark() == own) continue;
+    return check.Refuse(classID.isEmpty() ? "Player already has an entry without a class"
+                                          : "Player already entered in this class");
+  }
+  return check;
 }
 
 RowCheck CheckTeamEntry(const RowValues& row) {

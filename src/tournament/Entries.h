@@ -1,16 +1,17 @@
 #pragma once
 
+#include <optional>
 #include <QDate>
 #include <QList>
 #include <QMap>
 #include <QString>
 
 #include "basic/RowCheck.h"
+#include "data/Recordset.h"
 
 namespace tavrelin {
 
 class Connection;
-class Recordset;
 
 /// One tournament as the boxes of the play screens offer it.
 struct TournamentChoice {
@@ -22,6 +23,9 @@ struct TournamentChoice {
 
 /// All tournaments, the latest first.
 QList<TournamentChoice> TournamentChoices(Connection& connection);
+
+/// A tournament by its number; nothing when the file holds none of it.
+std::optional<TournamentChoice> FindTournament(Connection& connection, const QString& sanctionID);
 
 /// A code and what is shown for it, for value lists.
 struct Choice {
@@ -69,6 +73,10 @@ RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID);
 /// A singles entry about to be saved: percent, payment, seed, shoes and ringers are numbers,
 /// ringers within shoes.
 RowCheck CheckEntry(const RowValues& row);
+
+/// A singles entry about to go into another class: a player stands in a class once. `entries` holds
+/// the tournament's singles entries, its cursor is moved; `own` is the row that is saved.
+RowCheck CheckClassChange(Recordset& entries, Recordset::Bookmark own, const RowValues& row);
 
 /// A team entry about to be saved: percent, payment and seed are numbers.
 RowCheck CheckTeamEntry(const RowValues& row);

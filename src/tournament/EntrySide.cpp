@@ -25,6 +25,10 @@ EntrySide::EntrySide(EntrySideKind kind, const GridGuard& guard, QWidget* parent
 
 EntrySide::~EntrySide() = default;
 
+void EntrySide::Act() const {
+  if (Acted) Acted();
+}
+
 void EntrySide::BuildList() {
   list_->SetColumns(kind_.listColumns);
   list_->SetAllowEdit(false);
@@ -46,6 +50,7 @@ void EntrySide::BuildEntries() {
   entries_->SetEmptyText(kind_.entriesEmptyText);
   entries_->setEnabled(false);
   entries_->on.KeyDown = [this](GridKeyDown& event) { Entries_KeyDown(event); };
+  entries_->on.KeyPress = [this](GridKeyPress&) { Act(); };
   entries_->on.ColumnHeaderClick = [this](const QString& column) {
     Entries_ColumnHeaderClick(column);
   };
@@ -53,6 +58,7 @@ void EntrySide::BuildEntries() {
 
 void EntrySide::LayOut() {
   auto* halves = new QHBoxLayout(this);
+  halves->setContentsMargins(8, 8, 8, 8);
   halves->setSpacing(16);
   const auto addHalf = [&](const QString& label, const QString& caption, GridEX* grid,
                            int stretch) {
@@ -62,8 +68,8 @@ void EntrySide::LayOut() {
     column->addWidget(grid, 1);
     halves->addLayout(column, stretch);
   };
-  addHalf(kind_.listLabel, kind_.listCaption, list_, 3);
-  addHalf(kind_.entriesLabel, kind_.entriesCaption, entries_, 7);
+  addHalf(kind_.listLabel, kind_.listCaption, list_, 34);
+  addHalf(kind_.entriesLabel, kind_.entriesCaption, entries_, 66);
 }
 
 void EntrySide::ShowList(Connection& connection) {
@@ -81,6 +87,7 @@ void EntrySide::ShowEntries(Connection& connection, const QString& sanctionID,
                   connection, Recordset::Lock::Optimistic);
   entryKeys_ = entryRows_.Clone();
   NameEntrants(connection, sanctionID);
+  LetEditWhatIsRead();
   entries_->SetRecordset(&entryRows_);
   entries_->AddSortKey("ClassID", SortOrder::Ascending);
   entries_->AddSortKey("RingerPercent", SortOrder::Descending);
@@ -97,10 +104,19 @@ void EntrySide::NameEntrants(Connection& connection, const QString& sanctionID) 
   }
   for (int position = 1; position <= entryKeys_.RecordCount(); ++position) {
     const Value entrant = entryKeys_.CellAt(position, entryKeys_.FieldIndex(kind_.entrantField));
-    if (names.IndexOf(entrant) < 0) names.Add(entrant, entrant.ToText() + kind_.missingText);
+    if (names.IndexOf(entrant) >= 0) continue;
+    names.Add(entrant, entrant.ToText() + kind_.missingText);
+    categories.Add(entrant, EntryCategoryText({}));
   }
   entries_->SetValueList(kind_.entrantField, names);
   entries_->SetValueList("Category", categories);
+}
+
+// What is typed into a column whose field was not read could not be stored.
+void EntrySide::LetEditWhatIsRead() {
+  const QList<GridColumn> columns = entries_->Columns();
+  for (const GridColumn& column : columns)
+    entries_->SetEditable(column.Key(), entryRows_.FieldIndex(column.field) >= 0);
 }
 
 void EntrySide::OfferClasses(Connection& connection, const QString& sanctionID) {
@@ -133,6 +149,7 @@ void EntrySide::Release() {
 }
 
 void EntrySide::List_KeyDown(GridKeyDown& event) {
+  Act();
   const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
   if (enter && entries_->isEnabled() && list_->Row() > 0) {
     event.swallow = true;
@@ -153,6 +170,7 @@ bool EntrySide::IsFirstCell() const {
 }
 
 void EntrySide::Entries_KeyDown(GridKeyDown& event) {
+  Act();
   const bool back =
       event.key == Qt::Key_Tab && (event.modifiers & Qt::ShiftModifier) && IsFirstCell();
   if (event.key == Qt::Key_Escape || back) {
@@ -165,6 +183,7 @@ void EntrySide::Entries_KeyDown(GridKeyDown& event) {
 
 // Equal values remain in order of strength.
 void EntrySide::Entries_ColumnHeaderClick(const QString& column) {
+  Act();
   const SortOrder order = entries_->NextOrder(column);
   entries_->ClearSortKeys();
   entries_->AddSortKey(column, order);

@@ -47,6 +47,8 @@ class EntrySide : public QWidget {
 
   /// Enter or double click in the list while a tournament is chosen.
   std::function<void()> Selected;
+  /// Something is done in one of the grids; what was said before has had its day.
+  std::function<void()> Acted;
 
   void ShowList(Connection& connection);
   /// The entries of a tournament in the working order of the screen: by class, the strongest first.
@@ -60,6 +62,7 @@ class EntrySide : public QWidget {
   void Release();
 
  private:
+  void Act() const;
   void BuildList();
   void BuildEntries();
   void LayOut();
@@ -68,6 +71,7 @@ class EntrySide : public QWidget {
   void Entries_ColumnHeaderClick(const QString& column);
   bool IsFirstCell() const;
   void NameEntrants(Connection& connection, const QString& sanctionID);
+  void LetEditWhatIsRead();
 
   EntrySideKind kind_;
   GridEX* list_;

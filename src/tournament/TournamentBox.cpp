@@ -1,6 +1,7 @@
 #include "tournament/TournamentBox.h"
 
 #include <QLineEdit>
+#include <utility>
 
 #include "basic/SanctionNumber.h"
 #include "tournament/Entries.h"
@@ -14,7 +15,8 @@ TournamentBox::TournamentBox(QWidget* parent) : QComboBox(parent) {
   setInsertPolicy(QComboBox::NoInsert);
   setMinimumContentsLength(36);
   setMaxVisibleItems(16);
-  connect(this, &QComboBox::activated, this, [this] { TextSettled(); });
+  connect(this, &QComboBox::activated, this,
+          [this] { currentText() == settled_ ? Q_EMIT ChosenAgain() : TextSettled(); });
   connect(lineEdit(), &QLineEdit::editingFinished, this, [this] { TextSettled(); });
 }
 
@@ -23,7 +25,13 @@ void TournamentBox::Offer(const QList<TournamentChoice>& choices, const QString&
   for (const TournamentChoice& choice : choices) addItem(choice.text);
   setCurrentIndex(findText(preset, Qt::MatchFixedString));
   setEditText(preset);
-  settled_ = preset;
+  settled_ = before_ = preset;
+}
+
+void TournamentBox::GoBack() {
+  settled_ = before_;
+  setCurrentIndex(findText(settled_, Qt::MatchFixedString));
+  setEditText(settled_);
 }
 
 QString TournamentBox::SanctionID() const {
@@ -32,7 +40,7 @@ QString TournamentBox::SanctionID() const {
 
 void TournamentBox::TextSettled() {
   if (currentText() == settled_) return;
-  settled_ = currentText();
+  before_ = std::exchange(settled_, currentText());
   Q_EMIT Chosen();
 }
 

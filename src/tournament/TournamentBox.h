@@ -16,17 +16,21 @@ class TournamentBox : public QComboBox {
 
   /// Offers the tournaments anew and shows `preset`, a text as RecentTournament keeps it.
   void Offer(const QList<TournamentChoice>& choices, const QString& preset);
+  /// Shows the choice before the last one again, where the last one cannot be followed.
+  void GoBack();
   /// The number in the text; empty when there is none.
   QString SanctionID() const;
 
  Q_SIGNALS:
   /// Another tournament than before was picked, or the box was left with another text.
   void Chosen();
+  /// The same tournament was picked once more.
+  void ChosenAgain();
 
  private:
   void TextSettled();
 
-  QString settled_;
+  QString settled_, before_;
 };
 
 }  // namespace tavrelin

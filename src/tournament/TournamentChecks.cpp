@@ -48,7 +48,7 @@ RowCheck CheckTournament(const RowValues& row, bool newRow, Recordset& others) {
   if (sanction.size() != 7) return check.Refuse("Invalid sanction number");
   if (newRow && IsTaken(others, "SanctionID", sanction))
     return check.Refuse("Duplicate sanction number");
-  if (!IsDate(row.value("Date"))) return check.Refuse("Invalid tournament date");
+  if (!IsDate(row.value("Date"))) return check.UndoAndStay("Invalid tournament date");
   check.Fix("SanctionID", sanction);
   return check;
 }
@@ -58,6 +58,8 @@ RowCheck CheckTournamentClass(const RowValues& row, bool newRow, Recordset& othe
   const QString classID = row.value("ClassID").Trimmed();
   if (classID.isEmpty()) return check.Drop();
   if (newRow && IsTaken(others, "ClassID", classID)) return check.Refuse("Duplicate Class ID");
+  // Later screens look a class up by its bare letter. That of a stored one stays: games go by it.
+  if (newRow && row.value("ClassID").ToText() != classID) check.Fix("ClassID", classID);
   Value handicap = row.value("HandicapPct");
   if (IsBlank(handicap)) {
     handicap = 0;
@@ -69,7 +71,11 @@ RowCheck CheckTournamentClass(const RowValues& row, bool newRow, Recordset& othe
 }
 
 QDateTime DefaultClassStart(const QDateTime& tournamentDate) {
-  return tournamentDate.addSecs(8 * 60 * 60);
+  // By the clock on the wall: on the day it is changed, too, eight is not eight hours past
+  // midnight.
+  const QDateTime wall(tournamentDate.date(), tournamentDate.time(), Qt::UTC);
+  const QDateTime start = wall.addSecs(8 * 60 * 60);
+  return {start.date(), start.time()};
 }
 
 }  // namespace tavrelin

@@ -8,7 +8,7 @@ class Recordset;
 
 /// A tournament row about to be saved: sanction number, its uniqueness (on a new row), date.
 /// `others` holds all tournaments; its cursor is moved. A row without a number is dropped without a
-/// word.
+/// word; one without a date is undone.
 RowCheck CheckTournament(const RowValues& row, bool newRow, Recordset& others);
 
 /// A class row about to be saved. `others` holds the classes of this tournament; its cursor is

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "basic/Picture.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "data/Connection.h"
@@ -13,6 +14,7 @@
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
 #include "shell/Store.h"
+#include "shell/StoredValues.h"
 #include "tournament/Entries.h"
 #include "tournament/EntrySide.h"
 #include "tournament/TournamentBox.h"
@@ -40,14 +42,14 @@ GridColumn Count(const char* caption, const char* field, const char* key) {
   return {.caption = caption,
           .field = field,
           .key = key,
-          .width = 650,
+          .width = 550,
           .editor = CellEditor::Number,
           .alignment = Qt::AlignRight,
           .sort = SortKind::Numeric};
 }
 
-GridColumn ClassColumn() {
-  return {.caption = "Class", .field = "ClassID", .width = 1100, .editor = CellEditor::List};
+GridColumn ClassColumn(int width) {
+  return {.caption = "Class", .field = "ClassID", .width = width, .editor = CellEditor::List};
 }
 
 EntrySideKind SinglesKind() {
@@ -61,19 +63,19 @@ EntrySideKind SinglesKind() {
   kind.listColumns = {
       {.caption = "PlayerID", .field = "PlayerID", .visible = false},
       {.caption = "Category", .field = "Category", .visible = false},
-      {.caption = "Name", .field = "PlayerName", .width = 1600, .fill = true},
-      {.caption = "Card", .field = "CardNumber", .width = 750, .sort = SortKind::Numeric},
+      {.caption = "Name", .field = "PlayerName", .width = 1400, .fill = true},
+      {.caption = "Card", .field = "CardNumber", .width = 700, .sort = SortKind::Numeric},
       {.caption = "St", .field = "State", .width = 450},
-      {.caption = "Year", .field = "CardYear", .width = 600},
+      {.caption = "Year", .field = "CardYear", .width = 550},
   };
   kind.entryColumns = {
       {.caption = "SanctionID", .field = "SanctionID", .visible = false},
-      {.caption = "Name", .field = "PlayerID", .width = 1700, .selectable = false, .fill = true},
-      {.caption = "Cat", .field = "PlayerID", .key = "Category", .width = 850, .selectable = false},
-      Amount("Paid", "Paid", "##0.00", 750),
+      {.caption = "Name", .field = "PlayerID", .width = 1500, .selectable = false, .fill = true},
+      {.caption = "Cat", .field = "PlayerID", .key = "Category", .width = 900, .selectable = false},
+      Amount("Paid", "Paid", "##0.00", 650),
       Count("Seed", "Seed", ""),
-      Amount("%", "RingerPercent", "##0.00", 750),
-      ClassColumn(),
+      Amount("%", "RingerPercent", "##0.00", 650),
+      ClassColumn(750),
       Count("Shoes", "TotalShoes", "Shoes"),
       Count("Rgrs", "TotalRingers", "Ringers"),
       {.caption = "Rank",
@@ -118,15 +120,15 @@ EntrySideKind DoublesKind() {
        .width = 900,
        .selectable = false,
        .sort = SortKind::Numeric},
-      {.caption = "Team", .field = "Team", .width = 3000, .fill = true},
+      {.caption = "Team", .field = "Team", .width = 2000, .fill = true},
   };
   kind.entryColumns = {
       {.caption = "SanctionID", .field = "SanctionID", .visible = false},
       {.caption = "Team", .field = "TeamID", .width = 3000, .selectable = false, .fill = true},
-      Amount("Paid", "Paid", "##0.00", 750),
+      Amount("Paid", "Paid", "##0.00", 650),
       Count("Seed", "Seed", ""),
-      Amount("%", "RingerPercent", "##0.00", 750),
-      ClassColumn(),
+      Amount("%", "RingerPercent", "##0.00", 650),
+      ClassColumn(1600),
   };
   kind.listQuery = "SELECT TeamID, Team FROM Teams ORDER BY Team";
   kind.entryTable = "TournamentTeamEntrants";
@@ -167,6 +169,8 @@ uctEntrants::~uctEntrants() = default;
 void uctEntrants::WireUp() {
   connect(cboTournaments_, &TournamentBox::Chosen, this,
           [this] { Event("cboTournaments_LostFocus", [this] { cboTournaments_LostFocus(); }); });
+  connect(cboTournaments_, &TournamentBox::ChosenAgain, this,
+          [this] { Event("cboTournaments_LostFocus", [this] { cboTournaments_LostFocus(); }); });
   connect(cmdSetAverage_, &QPushButton::clicked, this,
           [this] { Event("cmdSetAverage_Click", [this] { cmdSetAverage_Click(); }); });
   connect(SSTab1_, &QTabWidget::currentChanged, this,
@@ -176,6 +180,7 @@ void uctEntrants::WireUp() {
   singles_->entries().on.BeforeUpdate = [this](GridUpdate& event) { GridEX2_BeforeUpdate(event); };
   doubles_->entries().on.BeforeUpdate = [this](GridUpdate& event) { GridEX4_BeforeUpdate(event); };
   for (EntrySide* side : {singles_, doubles_}) {
+    side->Acted = [this] { stsInfo()->ClearMessage(); };
     side->entries().on.BeforeDelete = [this](GridDelete& event) {
       event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected entry?");
     };
@@ -187,6 +192,7 @@ void uctEntrants::LayOut() {
   top->setSpacing(8);
   top->addWidget(NewHeading("lblTournament", "Tournament", cboTournaments_, this));
   top->addWidget(cboTournaments_, 1);
+  cmdSetAverage_->setMinimumWidth(cmdSetAverage_->sizeHint().width() + 24);
   top->addWidget(cmdSetAverage_);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 8, 16, 0);
@@ -207,7 +213,7 @@ void uctEntrants::UserControl_Show() {
   singles_->ShowList(*connection_);
   doubles_->ShowList(*connection_);
   cboTournaments_->Offer(TournamentChoices(*connection_),
-                         around().store.GetRegistryString({}, "RecentTournament"));
+                         around().store.Get(stored::RecentTournament));
   cboTournaments_LostFocus();
   if (sanctionID_.isEmpty()) cboTournaments_->setFocus();
 }
@@ -216,15 +222,28 @@ void uctEntrants::UserControl_Hide() {
   singles_->Release();
   doubles_->Release();
   connection_.reset();
-  around().store.SaveRegistryString({}, "RecentTournament",
-                                    cboTournaments_->currentText().trimmed());
+  around().store.Save(stored::RecentTournament, cboTournaments_->currentText().trimmed());
+}
+
+// What is typed in both tabs goes into the file; one that is refused comes to the front.
+bool uctEntrants::CommitEntries() {
+  for (EntrySide* side : {singles_, doubles_}) {
+    if (side->entries().CommitRow()) continue;
+    SSTab1_->setCurrentWidget(side);
+    side->entries().setFocus();
+    return false;
+  }
+  return true;
 }
 
 void uctEntrants::cboTournaments_LostFocus() {
+  stsInfo()->ClearMessage();
+  if (!CommitEntries()) return cboTournaments_->GoBack();
   sanctionID_ = cboTournaments_->SanctionID();
-  tournamentDate_ = around().clock.Now();
-  for (const TournamentChoice& choice : TournamentChoices(*connection_))
-    if (choice.sanctionID == sanctionID_) tournamentDate_ = choice.date;
+  const std::optional<TournamentChoice> found = FindTournament(*connection_, sanctionID_);
+  onFile_ = found.has_value();
+  if (found) sanctionID_ = found->sanctionID;
+  tournamentDate_ = found ? found->date : around().clock.Now();
   const bool chosen = !sanctionID_.isEmpty();
   for (EntrySide* side : {singles_, doubles_}) {
     side->SetEntriesEnabled(chosen);
@@ -235,11 +254,25 @@ void uctEntrants::cboTournaments_LostFocus() {
   if (chosen) OpenSide().list().setFocus();
 }
 
+// A refusal stays with its row, and its row in its tab.
 void uctEntrants::SSTab1_Click() {
+  if (!singles_->entries().DataChanged() && !doubles_->entries().DataChanged())
+    stsInfo()->ClearMessage();
   OpenSide().list().setFocus();
 }
 
+// Entries under a number that no tournament has would be seen by nobody.
+bool uctEntrants::MayEnter() {
+  stsInfo()->ClearMessage();
+  if (!CommitEntries()) return false;
+  if (!onFile_)
+    Refuse("Tournament " + FormatSanction(sanctionID_) +
+           " is not on file. Add it under Tournaments / Setup.");
+  return onFile_;
+}
+
 void uctEntrants::PlayerSelected() {
+  if (!MayEnter()) return;
   const GridEX& list = singles_->list();
   const QString playerID = list.Value("PlayerID").Trimmed();
   const QString category = list.Value("Category").Trimmed();
@@ -247,12 +280,14 @@ void uctEntrants::PlayerSelected() {
   if (!check.message.isEmpty()) Refuse(check.message);
   if (check.verdict == RowCheck::Verdict::Cancel) return;
   if (check.verdict == RowCheck::Verdict::Ask && !Ask(check)) return;
+  stsInfo()->ClearMessage();
   EnterPlayer(*connection_, sanctionID_, playerID, category, around().clock.Today());
   singles_->ShowEntries(*connection_, sanctionID_);
   singles_->GoToPayment(playerID);
 }
 
 void uctEntrants::TeamSelected() {
+  if (!MayEnter()) return;
   const QString team = doubles_->list().Value("TeamID").Trimmed();
   const RowCheck check = EnterTeam(*connection_, sanctionID_, team.toInt(), around().clock.Today());
   if (check.verdict != RowCheck::Verdict::Save) return Refuse(check.message);
@@ -261,23 +296,28 @@ void uctEntrants::TeamSelected() {
 }
 
 void uctEntrants::cmdSetAverage_Click() {
+  stsInfo()->ClearMessage();
   if (sanctionID_.isEmpty()) return Refuse("Choose a tournament first");
   const RowCheck check = CheckAverageUpdate(tournamentDate_, around().clock.Today());
   if (check.verdict == RowCheck::Verdict::Ask) {
     around().person.Beep();
     if (!Ask(check)) return;
   }
-  if (!singles_->entries().CommitRow() || !doubles_->entries().CommitRow()) return;
+  if (!CommitEntries()) return;
   UpdatePlayerAverages(*connection_, sanctionID_);
   singles_->ShowEntries(*connection_, sanctionID_, ColumnsAfterUpdate);
   const RowCheck teams = UpdateTeamAverages(*connection_, sanctionID_);
-  if (teams.verdict != RowCheck::Verdict::Save) Refuse(teams.message);
   doubles_->ShowEntries(*connection_, sanctionID_);
+  if (teams.verdict != RowCheck::Verdict::Save) return Refuse(teams.message);
+  Say("Choose the tournament again to see and type shoes and ringers.");
 }
 
 void uctEntrants::GridEX2_BeforeUpdate(GridUpdate& event) {
   GridEX& grid = singles_->entries();
-  Settle(CheckEntry(CurrentRow(grid)), grid, event);
+  RowCheck check = CheckEntry(CurrentRow(grid));
+  if (check.verdict == RowCheck::Verdict::Save)
+    check = CheckClassChange(singles_->EntryKeys(), grid.CurrentBookmark(), CurrentRow(grid));
+  Settle(check, grid, event);
 }
 
 void uctEntrants::GridEX4_BeforeUpdate(GridUpdate& event) {

@@ -32,6 +32,8 @@ class uctEntrants : public Screen {
   void WireUp();
   void LayOut();
   EntrySide& OpenSide();
+  bool CommitEntries();
+  bool MayEnter();
 
   void cboTournaments_LostFocus();
   void SSTab1_Click();
@@ -47,6 +49,7 @@ class uctEntrants : public Screen {
   EntrySide* singles_;
   EntrySide* doubles_;
   QString sanctionID_;
+  bool onFile_ = false;       ///< there is a tournament of that number
   QDateTime tournamentDate_;  ///< today when the tournament is not on file
   std::unique_ptr<Connection> connection_;
 };

@@ -13,6 +13,7 @@
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
 #include "shell/Store.h"
+#include "shell/StoredValues.h"
 #include "tournament/TournamentChecks.h"
 
 namespace tavrelin {
@@ -119,6 +120,11 @@ QList<GridColumn> ClassColumns() {
   };
 }
 
+// One new row was saved, or thrown away, and another stands in its place.
+bool IsFreshNewRow(const GridEX& grid, int lastRow, int lastCol) {
+  return lastRow == -1 && grid.IsNewRow() && lastCol == grid.Col();
+}
+
 }  // namespace
 
 uctTournaments::uctTournaments(const Surroundings& surroundings, QWidget* parent)
@@ -148,10 +154,11 @@ void uctTournaments::BuildTournaments() {
     if (event.column != "SanctionID") return;
     GridEX1_->SetValue("SanctionID", CleanSanction(GridEX1_->Value("SanctionID").ToText()));
   };
+  GridEX1_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
   GridEX1_->on.DblClick = [this] {
     if (!GridEX1_->IsNewRow()) TournamentSelected();
   };
-  GridEX1_->on.RowColChange = [this](int lastRow, int) { GridEX1_RowColChange(lastRow); };
+  GridEX1_->on.RowColChange = [this](int row, int col) { GridEX1_RowColChange(row, col); };
   GridEX1_->on.BeforeUpdate = [this](GridUpdate& event) { GridEX1_BeforeUpdate(event); };
   GridEX1_->on.BeforeDelete = [this](GridDelete& event) {
     event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected tournament?");
@@ -165,7 +172,8 @@ void uctTournaments::BuildClasses() {
   GridEX2_->SetEmptyText(ChooseFirst);
   GridEX2_->setEnabled(false);
   GridEX2_->on.KeyDown = [this](GridKeyDown& event) { GridEX2_KeyDown(event); };
-  GridEX2_->on.RowColChange = [this](int lastRow, int) { GridEX2_RowColChange(lastRow); };
+  GridEX2_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
+  GridEX2_->on.RowColChange = [this](int row, int col) { GridEX2_RowColChange(row, col); };
   GridEX2_->on.BeforeUpdate = [this](GridUpdate& event) { GridEX2_BeforeUpdate(event); };
   GridEX2_->on.LostFocus = [this] { GridEX2_LostFocus(); };
   GridEX2_->on.BeforeDelete = [this](GridDelete& event) {
@@ -208,6 +216,7 @@ void uctTournaments::UserControl_Hide() {
 }
 
 void uctTournaments::GridEX1_KeyDown(GridKeyDown& event) {
+  stsInfo()->ClearMessage();
   const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
   if (enter && GridEX1_->Col() != 0 && GridEX1_->Row() > 0) {
     event.swallow = true;
@@ -217,8 +226,12 @@ void uctTournaments::GridEX1_KeyDown(GridKeyDown& event) {
   }
 }
 
-void uctTournaments::GridEX1_RowColChange(int lastRow) {
-  if (lastRow == -1 && GridEX1_->Row() != lastRow) GridEX1_->ClearCol();
+void uctTournaments::GridEX1_RowColChange(int lastRow, int lastCol) {
+  if (IsFreshNewRow(*GridEX1_, lastRow, lastCol)) {
+    GridEX1_->SetCol("SanctionID");
+  } else if (lastRow == -1 && GridEX1_->Row() != lastRow) {
+    GridEX1_->ClearCol();
+  }
 }
 
 void uctTournaments::GridEX1_BeforeUpdate(GridUpdate& event) {
@@ -227,12 +240,13 @@ void uctTournaments::GridEX1_BeforeUpdate(GridUpdate& event) {
   Settle(check, *GridEX1_, event);
   if (check.verdict != RowCheck::Verdict::Save) return;
   // The other screens offer first the tournament that was worked on last.
-  around().store.SaveRegistryString(
-      {}, "RecentTournament",
+  around().store.Save(
+      stored::RecentTournament,
       SanctionComboText(GridEX1_->Value("SanctionID").Trimmed(), GridEX1_->Value("Name").ToText()));
 }
 
 void uctTournaments::GridEX2_KeyDown(GridKeyDown& event) {
+  stsInfo()->ClearMessage();
   if (event.key == Qt::Key_Escape) {
     event.swallow = true;
     GridEX1_->setFocus();
@@ -243,8 +257,9 @@ void uctTournaments::GridEX2_KeyDown(GridKeyDown& event) {
 }
 
 // A stored class keeps its letter: games and entries go by it.
-void uctTournaments::GridEX2_RowColChange(int lastRow) {
-  if (GridEX2_->Row() == lastRow) return;
+void uctTournaments::GridEX2_RowColChange(int lastRow, int lastCol) {
+  const bool fresh = IsFreshNewRow(*GridEX2_, lastRow, lastCol);
+  if (GridEX2_->Row() == lastRow && !fresh) return;
   if (GridEX2_->IsNewRow()) {
     GridEX2_->SetSelectable("ClassID", true);
     GridEX2_->SetCol("ClassID");
@@ -268,8 +283,10 @@ void uctTournaments::GridEX2_LostFocus() {
   GridEX2_->SetRecordset(nullptr);
 }
 
+// A class that is refused keeps its row, also from a double click on another tournament.
 void uctTournaments::TournamentSelected() {
-  if (!GridEX1_->CommitRow()) return;
+  stsInfo()->ClearMessage();
+  if (!GridEX2_->CommitRow() || !GridEX1_->CommitRow()) return;
   sanctionID_ = GridEX1_->Value("SanctionID").Trimmed();
   const QDateTime start = DefaultClassStart(GridEX1_->Value("Date").ToDate());
   BindClasses();

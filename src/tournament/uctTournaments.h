@@ -32,10 +32,10 @@ class uctTournaments : public Screen {
   void LayOut();
 
   void GridEX1_KeyDown(GridKeyDown& event);
-  void GridEX1_RowColChange(int lastRow);
+  void GridEX1_RowColChange(int lastRow, int lastCol);
   void GridEX1_BeforeUpdate(GridUpdate& event);
   void GridEX2_KeyDown(GridKeyDown& event);
-  void GridEX2_RowColChange(int lastRow);
+  void GridEX2_RowColChange(int lastRow, int lastCol);
   void GridEX2_BeforeUpdate(GridUpdate& event);
   void GridEX2_LostFocus();
   void TournamentSelected();

@@ -93,6 +93,103 @@ TEST_F(EntriesTest, OnlyTheTenMostRecentResultsCountEvenIfAnOlderOneIsTheBest) {
   EXPECT_DOUBLE_EQ(EnterPlayer(connection, "MN25A01", "SMIJOH", "AM", Today), 30.0);
 }
 
+TEST_F(EntriesTest, ATwelfthOlderResultOfTheYearIsIgnoredEvenIfItIsTheBest) {
+  AddPlayer("SMIJOH", 0);
+  AddResult("SMIJOH", 300, 99);
+  AddResult("SMIJOH", 250, 98);
+  for (int i = 1; i <= 10; ++i) AddResult("SMIJOH", i * 10, 20 + i);
+  // The latest ten have 21 to 30 %; the best three of them are 30, 29 and 28 of 100 shoes.
+  EXPECT_DOUBLE_EQ(EnterPlayer(connection, "MN25A01", "SMIJOH", "AM", Today), 29.0);
+}
+
+TEST_F(EntriesTest, OnlyResultsInThePresentDivisionCount) {
+  AddPlayer("SMIJOH", 0, "EM");
+  AddResult("SMIJOH", 10, 80, "AM");
+  AddResult("SMIJOH", 20, 30, "EM");
+  EXPECT_DOUBLE_EQ(EnterPlayer(connection, "MN25A01", "SMIJOH", "EM", Today), 30.0);
+}
+
+TEST_F(EntriesTest, PartnersWithoutARosterAverageBringTheirResultsToTheTeam) {
+  AddPlayer("AAA000", 0);
+  AddPlayer("BBB000", Value());
+  AddResult("AAA000", 10, 20);
+  AddResult("BBB000", 20, 50);
+  AddTeam(1, {"AAA000", "BBB000"});
+  EnterTeam(connection, "MN25A01", 1, Today);
+  EXPECT_DOUBLE_EQ(TeamPercent(1), 35);
+  EXPECT_EQ(Ask("SELECT PlayerOneID FROM TournamentTeamEntrants"), Value("BBB000"));
+}
+
+TEST_F(EntriesTest, AnUpdateLeavesThePartnersInTheirPlacesAlsoTheOtherWayRound) {
+  AddPlayer("AAA000", 60);
+  AddPlayer("BBB000", 40);
+  AddTeam(1, {"AAA000", "BBB000"});
+  EnterTeam(connection, "MN25A01", 1, Today);
+  connection.Execute("UPDATE Players SET Average = 80 WHERE PlayerID = 'BBB000'");
+  UpdateTeamAverages(connection, "MN25A01");
+  EXPECT_DOUBLE_EQ(TeamPercent(1), 70);
+  EXPECT_EQ(Ask("SELECT PlayerOneID FROM TournamentTeamEntrants"), Value("AAA000"));
+}
+
+TEST_F(EntriesTest, PartnersStandInTheOrderOfTheirTeamWhateverTheOrderOfTheRoster) {
+  // Zoe is put on the team first; nobody behind her counts while she has no average.
+  for (int i = 0; i < 300; ++i) AddPlayer(QStringLiteral("P%1").arg(i, 5, 10, QLatin1Char('0')), 1);
+  AddPlayer("AAA000", 50);
+  AddPlayer("ZOE000", 0);
+  AddTeam(1, {"ZOE000", "AAA000"});
+  connection.Execute(
+      "INSERT INTO TournamentTeamEntrants (SanctionID, TeamID, RingerPercent) "
+      "VALUES ('MN25A01', 1, 11)");
+  UpdateTeamAverages(connection, "MN25A01");
+  EXPECT_DOUBLE_EQ(TeamPercent(1), 11);
+}
+
+TEST_F(EntriesTest, AnUpdateTouchesNoOtherTournament) {
+  AddPlayer("AAA000", 40);
+  connection.Execute("INSERT INTO Tournaments (SanctionID) VALUES ('WI25B02')");
+  EnterPlayer(connection, "WI25B02", "AAA000", "AM", Today);
+  connection.Execute("UPDATE TournamentEntrants SET RingerPercent = 12.5");
+  UpdatePlayerAverages(connection, "MN25A01");
+  EXPECT_DOUBLE_EQ(Ask("SELECT RingerPercent FROM TournamentEntrants").ToNumber(), 12.5);
+}
+
+TEST_F(EntriesTest, APlayerStandsInAClassOnce) {
+  AddPlayer("AAA000", 40);
+  for (const char* classID : {"A", ""})
+    connection.Execute(
+        "INSERT INTO TournamentEntrants (SanctionID, PlayerID, ClassID) VALUES ('MN25A01', "
+        "'AAA000', ?)",
+        {classID});
+  Recordset entries;
+  entries.Open("SELECT PlayerID, ClassID FROM TournamentEntrants", connection);
+  const auto first = entries.BookmarkAt(1), second = entries.BookmarkAt(2);
+  const auto message = [&](Recordset::Bookmark own, const char* classID) {
+    return CheckClassChange(entries, own, {{"PlayerID", "AAA000"}, {"ClassID", classID}}).message;
+  };
+  EXPECT_EQ(message(second, "A"), "Player already entered in this class");
+  EXPECT_EQ(message(first, ""), "Player already has an entry without a class");
+  EXPECT_EQ(message(second, "B"), "");
+  EXPECT_EQ(message(second, ""), "");
+  EXPECT_EQ(message(first, "A"), "");
+}
+
+TEST_F(EntriesTest, ATournamentIsFoundByItsNumberInWhateverCase) {
+  const auto found = FindTournament(connection, "mn25a01");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->sanctionID, "MN25A01");
+  EXPECT_EQ(found->date.date(), QDate(2025, 9, 20));
+  EXPECT_FALSE(FindTournament(connection, "MN25A99"));
+}
+
+TEST_F(EntriesTest, EveryDivisionHasItsWordAndAnythingElseIsUnknown) {
+  const QMap<QString, QString> words = {
+      {"AM", "Men"},    {"AW", "Women"},   {"JB", "Jr Boy"},    {"JG", "Jr Girl"},
+      {"EM", "Elder"},  {"CA", "Cadet"},   {"CB", "Cadet Boy"}, {"CG", "Cadet Girl"},
+      {"AX", "Exempt"}, {"SM", "Unknown"}, {"", "Unknown"},     {"M", "Unknown"}};
+  for (auto word = words.begin(); word != words.end(); ++word)
+    EXPECT_EQ(EntryCategoryText(word.key()), word.value()) << word.key().toStdString();
+}
+
 TEST_F(EntriesTest, AFirstEntryWithoutAClassBlocksASecondOneAndWithAClassIsAskedAbout) {
   AddPlayer("SMIJOH", 45.5);
   Recordset none;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "data/Recordset.h"
 #include "support/QtPrinters.h"
 
@@ -77,6 +79,12 @@ TEST(TournamentChecks, ATournamentNeedsADate) {
     EXPECT_EQ(CheckNewTournament(Tournament("MN25A01", bad)).message, "Invalid tournament date");
 }
 
+TEST(TournamentChecks, ATournamentWithoutADateIsToldAndUndone) {
+  const RowCheck check = CheckNewTournament(Tournament("MN25A01", Value()));
+  EXPECT_EQ(check.message, "Invalid tournament date");
+  EXPECT_EQ(check.verdict, Verdict::Undo);
+}
+
 TEST(TournamentChecks, ClassRowsAreRefusedInOrder) {
   struct Case {
     const char* field;
@@ -135,6 +143,49 @@ TEST(TournamentChecks, AClassIsUniqueWithinItsTournamentOnTheNewRowOnly) {
   EXPECT_EQ(CheckNewClass(Class(), {"B"}).verdict, Verdict::Save);
   Recordset others = Keys("ClassID", {"A"});
   EXPECT_EQ(CheckTournamentClass(Class(), false, others).verdict, Verdict::Save);
+}
+
+TEST(TournamentChecks, ABlankBesideTheLetterOfANewClassIsNotStored) {
+  const RowCheck check = CheckNewClass(Class("ClassID", " A"));
+  ASSERT_EQ(check.fixes.size(), 1);
+  EXPECT_EQ(check.fixes[0].first, "ClassID");
+  EXPECT_EQ(check.fixes[0].second, Value("A"));
+  Recordset others = Keys("ClassID", {});
+  EXPECT_TRUE(CheckTournamentClass(Class("ClassID", " A"), false, others).fixes.isEmpty());
+}
+
+TEST(TournamentChecks, AnyNumericTextWillDoForShoesPlacesAndHandicap) {
+  for (const char* field : {"Shoes", "PlacesPaidOut", "HandicapPct"})
+    for (const char* number : {"-3", "40.5", "1e3", " 7 "})
+      EXPECT_EQ(CheckNewClass(Class(field, number)).verdict, Verdict::Save) << field << number;
+}
+
+TEST(TournamentChecks, NameChampionshipAndReportAreNotChecked) {
+  for (const char* field : {"Name", "ChampionshipClass", "Report"})
+    EXPECT_EQ(CheckNewClass(Class(field, Value())).verdict, Verdict::Save) << field;
+}
+
+/// The local time of a place that puts its clocks forward on the second Sunday of March, back on
+/// the first of November.
+struct ChicagoTime {
+  ChicagoTime() { Use("CST6CDT,M3.2.0,M11.1.0"); }
+  ~ChicagoTime() { Use("UTC"); }
+  static void Use(const char* zone) {
+    qputenv("TZ", zone);
+    tzset();
+  }
+};
+
+TEST(TournamentChecks, AClassStartsAtEightByTheWallOnTheDaysTheClockIsChanged) {
+  const ChicagoTime chicago;
+  for (const QDate day : {QDate(2025, 3, 9), QDate(2025, 11, 2)})
+    EXPECT_EQ(DefaultClassStart(QDateTime(day, QTime(0, 0))).toString("yyyy-MM-dd hh:mm"),
+              day.toString("yyyy-MM-dd") + " 08:00");
+}
+
+TEST(TournamentChecks, AClassOfAnEveningStartsEightHoursAfterIt) {
+  EXPECT_EQ(DefaultClassStart({QDate(2025, 6, 14), QTime(18, 30)}).toString("yyyy-MM-dd hh:mm"),
+            "2025-06-15 02:30");
 }
 
 TEST(TournamentChecks, AClassStartsAtEightUnlessToldOtherwise) {

@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QTabWidget>
 
 #include "controls/GridEX.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
+#include "screens/GridClicks.h"
 #include "support/ScreenBench.h"
 
 namespace tavrelin {
@@ -163,6 +167,178 @@ TEST_F(uctEntrantsTest, UpdateFromProfileAsksOnceForAPastTournamentAndNotForAFut
   EXPECT_EQ(bench.person.questions[0].text, "Tournament occurs in the past.  Continue?");
 }
 
+TEST_F(uctEntrantsTest, OneAnswerBringsBothTabsOfAPastTournamentUpToDate) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  OpenDoubles();
+  Enter(Teams(), 1);
+  file.Execute("UPDATE TournamentEntrants SET RingerPercent = 1");
+  file.Execute("UPDATE TournamentTeamEntrants SET RingerPercent = 1");
+  bench.clock.now = QDateTime(QDate(2025, 6, 21), QTime(9, 0));
+  bench.person.WillAnswer(false);
+  bench.Click("cmdSetAverage");
+  EXPECT_EQ(Ask("SELECT RingerPercent FROM TournamentEntrants").ToNumber(), 1);
+  EXPECT_EQ(bench.person.beeps, 1);
+  bench.person.WillAnswer(true);
+  bench.Click("cmdSetAverage");
+  EXPECT_EQ(bench.person.questions.size(), 2);
+  EXPECT_EQ(Ask("SELECT RingerPercent FROM TournamentEntrants").ToNumber(), 61.5);
+  EXPECT_EQ(Ask("SELECT RingerPercent FROM TournamentTeamEntrants").ToNumber(), 50.75);
+  EXPECT_EQ(TeamsEntered().TextAt(1, "RingerPercent"), "50.75");
+}
+
+TEST_F(uctEntrantsTest, ATeamThatLostAPlayerStopsTheUpdateWithItsMessage) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  OpenDoubles();
+  Enter(Teams(), 1);
+  file.Execute("DELETE FROM TeamPlayers WHERE PlayerID = 'BEEBOB'");
+  bench.Click("cmdSetAverage");
+  EXPECT_EQ(bench.Message(), "Team must have two players");
+  EXPECT_TRUE(bench.Refused());
+}
+
+TEST_F(uctEntrantsTest, ShoesStandEmptyAfterAnUpdateUntilTheTournamentIsPickedAgain) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  file.Execute("UPDATE TournamentEntrants SET TotalShoes = 40, TotalRingers = 20");
+  bench.Click("cmdSetAverage");
+  EXPECT_EQ(bench.Message(), "Choose the tournament again to see and type shoes and ringers.");
+  EXPECT_FALSE(bench.Refused());
+  Entered().setFocus();
+  Entered().SetRow(1);
+  Entered().SetCol("Shoes");
+  EXPECT_FALSE(Entered().EditCell());
+  bench.Pick("cboTournaments", "MN-25-A01   Spring Open");
+  EXPECT_EQ(Entered().TextAt(1, "Shoes"), "40");
+  EXPECT_EQ(bench.FocusName(), "GridEX1_Table");
+  Entered().SetRow(1);
+  Entered().SetCol("Shoes");
+  EXPECT_TRUE(Entered().EditCell());
+}
+
+TEST_F(uctEntrantsTest, AnEntryThatIsRefusedIsNotLostByEnteringAnother) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  bench.Type("12x");
+  DoubleClickCell(Players(), 2, "PlayerName");
+  EXPECT_EQ(bench.Message(), "Invalid payment");
+  EXPECT_EQ(Entered().RowCount(), 1);
+  EXPECT_EQ(Entered().Value("Paid"), Value("12x"));
+  EXPECT_EQ(bench.FocusName(), "GridEX2_Table");
+}
+
+TEST_F(uctEntrantsTest, AnEntryThatIsRefusedIsNotLostByChoosingAnotherTournament) {
+  file.Execute("INSERT INTO Tournaments (SanctionID, Date) VALUES ('WI25B02', #7/1/2025#)");
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  bench.Type("12x");
+  bench.Pick("cboTournaments", "WI-25-B02");
+  EXPECT_EQ(bench.Message(), "Invalid payment");
+  EXPECT_EQ(bench.Find<QComboBox>("cboTournaments").currentText(), "MN-25-A01   Spring Open");
+  EXPECT_EQ(Entered().Value("Paid"), Value("12x"));
+  bench.Press(Qt::Key_Escape);
+  bench.Pick("cboTournaments", "WI-25-B02");
+  EXPECT_EQ(Entered().RowCount(), 0);
+}
+
+TEST_F(uctEntrantsTest, NobodyIsEnteredIntoATournamentThatWasDeleted) {
+  file.Execute("DELETE FROM Tournaments");
+  bench.Show<uctEntrants>();
+  const char* gone = "Tournament MN-25-A01 is not on file. Add it under Tournaments / Setup.";
+  Enter(Players(), 1);
+  EXPECT_EQ(bench.Message(), gone);
+  OpenDoubles();
+  Enter(Teams(), 1);
+  EXPECT_EQ(bench.Message(), gone);
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentEntrants").ToWhole(), 0);
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentTeamEntrants").ToWhole(), 0);
+}
+
+TEST_F(uctEntrantsTest, ATypedNumberInSmallLettersChoosesItsTournament) {
+  bench.store().SaveRegistryString({}, "RecentTournament", "");
+  bench.Show<uctEntrants>();
+  bench.Fill("cboTournaments", "mn25a01");
+  bench.Press(Qt::Key_Return);
+  Enter(Players(), 1);
+  EXPECT_EQ(Ask("SELECT SanctionID FROM TournamentEntrants"), Value("MN25A01"));
+}
+
+TEST_F(uctEntrantsTest, APlayerIsNotPutIntoTheSameClassTwice) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  file.Execute("UPDATE TournamentEntrants SET ClassID = 'A'");
+  bench.LeaveAndReturn();
+  bench.person.WillAnswer(true);
+  Enter(Players(), 1);
+  EXPECT_EQ(Entered().TextAt(Entered().Row(), "ClassID"), "");
+  Entered().SetValue("ClassID", "A");
+  EXPECT_FALSE(Entered().CommitRow());
+  EXPECT_EQ(bench.Message(), "Player already entered in this class");
+}
+
+TEST_F(uctEntrantsTest, ADoubleClickEntersAsEnterDoes) {
+  bench.Show<uctEntrants>();
+  DoubleClickCell(Players(), 2, "PlayerName");
+  ASSERT_EQ(Entered().RowCount(), 1);
+  EXPECT_EQ(Entered().TextAt(1, "PlayerID"), "Beech, Bob");
+  EXPECT_EQ(Entered().ColumnKey(Entered().Col()), "Paid");
+}
+
+TEST_F(uctEntrantsTest, EntriesStandByClassTheStrongestFirst) {
+  bench.Show<uctEntrants>();
+  for (int row : {2, 3, 1}) Enter(Players(), row);
+  file.Execute("UPDATE TournamentEntrants SET ClassID = 'A' WHERE PlayerID <> 'OBRAL0'");
+  bench.LeaveAndReturn();
+  EXPECT_EQ(TextsOf(Entered(), "PlayerID"),
+            (QStringList{"O'Brien, Al", "Adams, Ann", "Beech, Bob"}));
+}
+
+TEST_F(uctEntrantsTest, AnEntryNeedsNumbersForPercentPaymentAndSeedInThisOrder) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  const QList<QPair<QString, QString>> rules = {{"RingerPercent", "Invalid ringer percent"},
+                                                {"Paid", "Invalid payment"},
+                                                {"Seed", "Invalid seed"},
+                                                {"Shoes", "Invalid Shoes"},
+                                                {"Ringers", "Invalid Ringers"}};
+  for (const auto& rule : rules) Entered().SetValue(rule.first, "");
+  for (const auto& [column, message] : rules) {
+    EXPECT_FALSE(Entered().CommitRow());
+    EXPECT_EQ(bench.Message(), message);
+    Entered().SetValue(column, 0);
+  }
+  EXPECT_TRUE(Entered().CommitRow());
+}
+
+TEST_F(uctEntrantsTest, ATeamEntryNeedsNumbersForPercentPaymentAndSeed) {
+  bench.Show<uctEntrants>();
+  OpenDoubles();
+  Enter(Teams(), 1);
+  TeamsEntered().SetCol("Seed");
+  bench.Type("x");
+  EXPECT_FALSE(TeamsEntered().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid seed");
+}
+
+TEST_F(uctEntrantsTest, EveryControlIsReachedByTabAndTheHiddenTabsGridsAreNot) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  bench.Focus("cboTournaments");
+  QStringList stops;
+  for (int i = 0; i < 12 && !stops.contains("GridEX2_Table"); ++i) {
+    stops << bench.FocusName();
+    QWidget* focus = bench.Find("uctEntrants").window()->focusWidget();
+    QTest::keyClick(
+        focus, Qt::Key_Tab,
+        focus->objectName().startsWith("GridEX") ? Qt::ControlModifier : Qt::NoModifier);
+    bench.ProcessEvents();
+    if (bench.FocusName() == "GridEX2_Table") stops << bench.FocusName();
+  }
+  EXPECT_EQ(stops, (QStringList{"cboTournaments", "cmdSetAverage", "qt_tabwidget_tabbar",
+                                "GridEX1_Table", "GridEX2_Table"}));
+}
+
 TEST_F(uctEntrantsTest, TypingJumpsToTheFirstLastNameThatBeginsSoOrComesNext) {
   bench.Show<uctEntrants>();
   Players().setFocus();
@@ -210,16 +386,71 @@ TEST_F(uctEntrantsTest, AnEntryOfAPlayerDeletedFromTheRosterSaysSo) {
   file.Execute("DELETE FROM Players WHERE PlayerID = 'ADAANN'");
   bench.LeaveAndReturn();
   EXPECT_EQ(Entered().TextAt(1, "PlayerID"), "ADAANN (not on the roster)");
+  EXPECT_EQ(Entered().TextAt(1, "Category"), "Unknown");
+  Entered().SetRow(1);
+  Entered().SetValue("Paid", 10);
+  EXPECT_TRUE(Entered().CommitRow());
+  bench.Click("cmdSetAverage");
+  EXPECT_EQ(Entered().TextAt(1, "RingerPercent"), "61.50");
+}
+
+TEST_F(uctEntrantsTest, AnEntryOfATeamThatWasDeletedSaysSoAndCanBeTakenOut) {
+  bench.Show<uctEntrants>();
+  OpenDoubles();
+  Enter(Teams(), 1);
+  file.Execute("DELETE FROM Teams WHERE TeamID = 1");
+  bench.LeaveAndReturn();
+  EXPECT_EQ(TeamsEntered().TextAt(1, "TeamID"), "1 (team no longer kept)");
+  TeamsEntered().SetRow(1);
+  bench.person.WillAnswer(true);
+  EXPECT_TRUE(TeamsEntered().DeleteRow());
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentTeamEntrants").ToWhole(), 0);
+}
+
+TEST_F(uctEntrantsTest, AnEntryOfAClassThatWasDeletedStandsUnplaced) {
+  bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  file.Execute("UPDATE TournamentEntrants SET ClassID = 'A'");
+  file.Execute("DELETE FROM TournamentClasses WHERE ClassID = 'A'");
+  bench.LeaveAndReturn();
+  EXPECT_EQ(Entered().TextAt(1, "ClassID"), "");
 }
 
 TEST_F(uctEntrantsTest, Pictures) {
-  bench.Show<uctEntrants>();
-  for (int row : {1, 2, 3}) Enter(Players(), row);
-  bench.Shot("uctEntrants-singles");
-  EXPECT_EQ(CutTexts(*bench.Find("GridEX1").window()), QStringList());
-  OpenDoubles();
-  Enter(Teams(), 1);
-  bench.Shot("uctEntrants-doubles");
+  AddPlayer("QUICLE", "Clémence", "Quillfeather", 71.25);
+  file.Execute(
+      "UPDATE Players SET CardNumber = '345678', CardYear = '2026', Category = 'CG' "
+      "WHERE PlayerID = 'QUICLE'");
+  // So many that both grids need their bar at the side: the worst case for the width of the names.
+  for (int i = 0; i < 30; ++i)
+    AddPlayer(QStringLiteral("Z%1").arg(i, 5, 10, QLatin1Char('0')), "Walt",
+              "Zimmer" + QString::number(i), 30);
+  const auto pictures = [this](const QString& look) {
+    bench.Show<uctEntrants>();
+    for (int row : {1, 2, 4}) Enter(Players(), row);
+    Entered().SetValue("ClassID", "A");
+    Entered().CommitRow();
+    file.Execute(
+        "INSERT INTO TournamentEntrants (SanctionID, PlayerID, ClassID) SELECT 'MN25A01', "
+        "PlayerID, 'A' FROM Players WHERE PlayerID LIKE 'Z%'");
+    bench.LeaveAndReturn();
+    bench.Shot("uctEntrants-singles" + look);
+    EXPECT_EQ(CutTexts(*bench.Find("GridEX1").window()), QStringList());
+    EXPECT_FALSE(TableOf(Players()).horizontalScrollBar()->isVisible());
+    EXPECT_FALSE(TableOf(Entered()).horizontalScrollBar()->isVisible());
+    Enter(Players(), 2);
+    bench.Shot("uctEntrants-refusal" + look);
+    OpenDoubles();
+    Enter(Teams(), 1);
+    bench.Shot("uctEntrants-doubles" + look);
+    file.Execute("DELETE FROM TournamentEntrants");
+    file.Execute("DELETE FROM TournamentTeamEntrants");
+  };
+  UseLightPalette();
+  pictures("");
+  UseDarkPalette();
+  pictures("-dark");
+  UseLightPalette();
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "data/Schema.h"
+#include "screens/GridClicks.h"
 #include "support/ScreenBench.h"
 
 namespace tavrelin {
@@ -106,6 +107,175 @@ TEST_F(uctTournamentsTest, ARowWithoutANumberVanishesWithoutAWord) {
   EXPECT_EQ(bench.Message(), "");
   EXPECT_EQ(bench.person.beeps, 0);
   EXPECT_EQ(Count("Tournaments"), 1);
+}
+
+TEST_F(uctTournamentsTest, ATournamentWithoutADateIsToldAndUndoneAndTheOperatorStays) {
+  Show();
+  TypeRow({"MN25A01", "Spring Open", "someday"});
+  EXPECT_FALSE(Tournaments().CommitRow());
+  EXPECT_EQ(bench.Message(), "Invalid tournament date");
+  EXPECT_TRUE(bench.Refused());
+  EXPECT_TRUE(Tournaments().IsNewRow());
+  EXPECT_FALSE(Tournaments().DataChanged());
+  EXPECT_TRUE(Tournaments().Value("Name").IsNull());
+  EXPECT_EQ(Count("Tournaments"), 0);
+  EXPECT_EQ(bench.store().GetRegistryString({}, "RecentTournament"), "");
+}
+
+TEST_F(uctTournamentsTest, AStoredTournamentGivenABadDateShowsItsStoredRowAgain) {
+  AddTournament("MN25A01");
+  Show();
+  Tournaments().SetRow(1);
+  Tournaments().SetCol("Date");
+  bench.Type("13/45/2025");
+  EXPECT_FALSE(Tournaments().CommitRow());
+  EXPECT_EQ(Tournaments().Row(), 1);
+  EXPECT_EQ(Tournaments().TextAt(1, "Date"), "06/20/2025");
+}
+
+TEST_F(uctTournamentsTest, ASavedTournamentLeavesTheCursorReadyForTheNextNumber) {
+  Show();
+  for (const char* cell : {"MN25A01", "Spring Open"}) {
+    bench.Type(cell);
+    bench.Press(Qt::Key_Tab);
+  }
+  bench.Type("6/20/2025");
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(Count("Tournaments"), 1);
+  EXPECT_TRUE(Tournaments().IsNewRow());
+  EXPECT_EQ(Tournaments().ColumnKey(Tournaments().Col()), "SanctionID");
+}
+
+TEST_F(uctTournamentsTest, ATournamentWithoutANameIsRememberedByItsNumberAlone) {
+  Show();
+  TypeRow({"MN25A01", "", "6/20/2025"});
+  ASSERT_TRUE(Tournaments().CommitRow());
+  EXPECT_EQ(bench.store().GetRegistryString({}, "RecentTournament"), "MN-25-A01");
+}
+
+TEST_F(uctTournamentsTest, TheTournamentsStandLatestFirstAndAClickOnAHeadingFlips) {
+  AddTournament("MN25A01", "6/1/2025");
+  AddTournament("WI25B02", "6/20/2025");
+  Show();
+  EXPECT_EQ(TextsOf(Tournaments(), "SanctionID"), (QStringList{"WI-25-B02", "MN-25-A01"}));
+  ClickHeading(Tournaments(), "Date");
+  EXPECT_EQ(TextsOf(Tournaments(), "SanctionID"), (QStringList{"MN-25-A01", "WI-25-B02"}));
+  ClickHeading(Tournaments(), "Date");
+  EXPECT_EQ(TextsOf(Tournaments(), "SanctionID"), (QStringList{"WI-25-B02", "MN-25-A01"}));
+}
+
+TEST_F(uctTournamentsTest, LeftInTheFirstColumnAndLeavingTheNewRowGoToTheRowSelector) {
+  AddTournament("MN25A01");
+  Show();
+  bench.Press(Qt::Key_Left);
+  EXPECT_EQ(Tournaments().Col(), -1);
+  Tournaments().SetCol("Name");
+  bench.Press(Qt::Key_Down);
+  EXPECT_EQ(Tournaments().Row(), 1);
+  EXPECT_EQ(Tournaments().Col(), -1);
+}
+
+TEST_F(uctTournamentsTest, ADoubleClickChoosesATournamentToo) {
+  AddTournament("MN25A01");
+  Show();
+  DoubleClickCell(Tournaments(), 1, "Name");
+  EXPECT_TRUE(Classes().isEnabled());
+  EXPECT_EQ(bench.FocusName(), "GridEX2_Table");
+}
+
+TEST_F(uctTournamentsTest, AClassThatIsRefusedStaysWhenAnotherTournamentIsDoubleClicked) {
+  AddTournament("MN25A01");
+  AddTournament("WI25B02", "6/1/2025");
+  Show();
+  ChooseFirstTournament();
+  TypeRow({"a", "Men"});
+  DoubleClickCell(Tournaments(), 2, "Name");
+  EXPECT_EQ(bench.Message(), "Invalid rank method");
+  EXPECT_EQ(Classes().Value("Name"), Value("Men"));
+  EXPECT_EQ(bench.FocusName(), "GridEX2_Table");
+}
+
+TEST_F(uctTournamentsTest, AClassRowWithoutALetterVanishesWithoutAWord) {
+  AddTournament("MN25A01");
+  Show();
+  ChooseFirstTournament();
+  Classes().SetCol("Name");
+  bench.Type("Nameless");
+  EXPECT_TRUE(Classes().CommitRow());
+  EXPECT_EQ(bench.Message(), "");
+  EXPECT_EQ(bench.person.beeps, 0);
+  EXPECT_EQ(Count("TournamentClasses"), 0);
+}
+
+TEST_F(uctTournamentsTest, RingerPercentIsRefusedAtHandicap80AndTakenAt0AndWhenEmpty) {
+  AddTournament("MN25A01");
+  Show();
+  ChooseFirstTournament();
+  for (const auto& [field, value] :
+       QList<QPair<QString, Value>>{{"ClassID", "A"}, {"RankMethod", "R"}, {"PlayFormat", "S"}})
+    Classes().SetValue(field, value);
+  Classes().SetCol("HandicapPct");
+  bench.Type("80");
+  EXPECT_FALSE(Classes().CommitRow());
+  EXPECT_EQ(bench.Message(), "QLTA does not allow Ringer Percent Tie-breaker for Handicap Class");
+  bench.Press(Qt::Key_Delete);
+  EXPECT_TRUE(Classes().CommitRow()) << bench.Message().toStdString();
+  EXPECT_EQ(Ask("SELECT HandicapPct FROM TournamentClasses"), Value(0.0));
+  Classes().SetRow(1);
+  Classes().SetCol("HandicapPct");
+  bench.Type("0");
+  EXPECT_TRUE(Classes().CommitRow());
+}
+
+TEST_F(uctTournamentsTest, ASavedClassLeavesTheCursorOnTheLetterOfTheNext) {
+  AddTournament("MN25A01");
+  Show();
+  ChooseFirstTournament();
+  for (const auto& [field, value] :
+       QList<QPair<QString, Value>>{{"RankMethod", "P"}, {"PlayFormat", "S"}})
+    Classes().SetValue(field, value);
+  bench.Type("a");
+  bench.Press(Qt::Key_Tab);
+  bench.Type("Men");
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(Ask("SELECT ClassID FROM TournamentClasses"), Value("A"));
+  EXPECT_TRUE(Classes().IsNewRow());
+  EXPECT_EQ(Classes().ColumnKey(Classes().Col()), "ClassID");
+  bench.Type("B");
+  bench.Press(Qt::Key_Return);
+  EXPECT_EQ(Count("TournamentClasses"), 2);
+}
+
+TEST_F(uctTournamentsTest, ADuplicateLetterIsRefused) {
+  AddTournament("MN25A01");
+  file.Execute("INSERT INTO TournamentClasses (SanctionID, ClassID) VALUES ('MN25A01', 'A')");
+  Show();
+  ChooseFirstTournament();
+  bench.Type("a");
+  EXPECT_FALSE(Classes().CommitRow());
+  EXPECT_EQ(bench.Message(), "Duplicate Class ID");
+  EXPECT_EQ(Count("TournamentClasses"), 1);
+}
+
+TEST_F(uctTournamentsTest, AClassStartsAtEightOnTheTournamentsDayAlsoWhenTheClockIsChanged) {
+  AddTournament("MN25A01", "3/9/2025");
+  Show();
+  ChooseFirstTournament();
+  EXPECT_EQ(Classes().TextAt(-1, "DateTime"), "03/09/2025 8:00 AM");
+}
+
+TEST_F(uctTournamentsTest, TheColumnsOfBothGridsStandInTheirOrder) {
+  Show();
+  const auto captions = [](const GridEX& grid) {
+    QStringList texts;
+    for (const GridColumn& column : grid.Columns())
+      if (column.visible) texts << column.caption;
+    return texts;
+  };
+  EXPECT_EQ(captions(Tournaments()),
+            (QStringList{"Sanction", "Name", "Date", "City", "St", "Director"}));
+  EXPECT_EQ(captions(Classes()), (QStringList{"Class", "Name", "Hcp", "Date/Time", "ShPG",
+                                              "TieBreaker", "Format", "Chmp", "NoPA", "Report"}));
 }
 
 TEST_F(uctTournamentsTest, EnterOnATournamentOpensItsClassesOnANewRowWithItsDefaults) {
@@ -217,17 +387,27 @@ TEST_F(uctTournamentsTest, NothingIsKeptBetweenTwoVisits) {
 }
 
 TEST_F(uctTournamentsTest, NothingIsCutAndPictures) {
-  AddTournament("MN25A01");
+  AddTournament("MN25A01", "6/1/2025");
   AddTournament("WI25B02");
+  file.Execute(
+      "UPDATE Tournaments SET City = 'Saint-Élan', State = 'OH', Director = 'Clémence Vérendelle'");
   file.Execute(
       "INSERT INTO TournamentClasses (SanctionID, ClassID, Name, Shoes, RankMethod, PlayFormat, "
       "DateTime, HandicapPct, PlacesPaidOut) "
-      "VALUES ('WI25B02', 'A', 'Men Championship', 40, 'P', 'S', #6/20/2025 8:00 AM#, 0, 3)");
-  Show();
-  bench.Shot("uctTournaments");
-  ChooseFirstTournament();
-  bench.Shot("uctTournaments-classes");
-  EXPECT_EQ(CutTexts(*bench.Find("GridEX1").window()), QStringList());
+      "VALUES ('WI25B02', 'A', 'Men Championship', 40, 'H', 'S', #6/20/2025 10:00 AM#, 0, 3)");
+  for (const bool dark : {false, true}) {
+    dark ? UseDarkPalette() : UseLightPalette();
+    const QString look = dark ? "-dark" : "";
+    Show();
+    bench.Shot("uctTournaments" + look);
+    ChooseFirstTournament();
+    bench.Shot("uctTournaments-classes" + look);
+    EXPECT_EQ(CutTexts(*bench.Find("GridEX1").window()), QStringList());
+    bench.Type("a");
+    EXPECT_FALSE(Classes().CommitRow());
+    bench.Shot("uctTournaments-refusal" + look);
+  }
+  UseLightPalette();
 }
 
 }  // namespace
