@@ -10,6 +10,7 @@
 #include "basic/PlatformPath.h"
 #include "data/Connection.h"
 #include "data/NewFile.h"
+#include "data/Recordset.h"
 #include "data/Schema.h"
 
 namespace tavrelin {
@@ -50,12 +51,24 @@ QList<SampleTournament> Plans() {
   };
 }
 
+/// Every fifth player with results loses the average of the roster: they enter the open tournament
+/// by what they pitched.
+void LetResultsDecide(Connection& connection) {
+  Recordset rows;
+  rows.Open("SELECT DISTINCT PlayerID FROM PlayerScores ORDER BY PlayerID", connection);
+  for (int i = 0; !rows.AtEnd(); rows.MoveNext(), ++i) {
+    if (i % 5 != 0) continue;
+    connection.Execute("UPDATE Players SET Average = 0 WHERE PlayerID = ?", {rows["PlayerID"]});
+  }
+}
+
 void FillClub(Connection& connection, unsigned seed) {
   Batch batch(connection);
   Dice dice(seed);
   const QList<SamplePlayer> players = AddSamplePlayers(connection, dice);
   const QList<SampleTeam> teams = AddSampleTeams(connection, players);
   for (const SampleTournament& plan : Plans()) {
+    if (plan.date == SampleDay()) LetResultsDecide(connection);
     AddSampleTournament(connection, dice, plan, players, teams);
   }
   batch.Commit();

@@ -130,7 +130,6 @@ void SetAddress(Roster& roster, int number) {
           number % 2 == 0 ? QStringLiteral("player%1@example.org").arg(number) : QString());
 }
 
-/// Every fifth player has no average in the roster, so that his results decide.
 void SetMembership(Roster& roster, int number, const DivisionPlan& plan, double skill) {
   Recordset& row = roster.rows;
   const bool carded = number % 15 != 14;
@@ -142,7 +141,7 @@ void SetMembership(Roster& roster, int number, const DivisionPlan& plan, double 
                              1 + roster.dice.Below(28)));
   row.Set("Longevity", roster.dice.Below(std::max(1, std::min(30, SampleYear - plan.born - 8))));
   row.Set("Remarks", number % 12 == 7 ? "Left-handed" : "");
-  row.Set("Average", number % 5 == 4 ? 0.0 : std::round(skill * 10000) / 100);
+  row.Set("Average", std::round(skill * 10000) / 100);
   row.Set("EmergencyInfo", number % 10 == 1 ? "Ask at the club house" : "");
   row.Set("Awards", number % 25 == 6 ? "Sportsmanship 2024" : "");
   row.Set("MembershipType", MembershipOf(number));

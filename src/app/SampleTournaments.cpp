@@ -2,7 +2,6 @@
 
 #include <QHash>
 #include <QSet>
-#include <utility>
 
 #include "app/Dice.h"
 #include "app/PitchedGame.h"
@@ -13,7 +12,7 @@
 #include "play/ClassLoad.h"
 #include "play/PlayFormat.h"
 #include "play/Ranking.h"
-#include "players/EntryAverage.h"
+#include "tournament/Entries.h"
 
 namespace tavrelin {
 namespace {
@@ -44,24 +43,23 @@ void AddClass(Work& work, const SampleClass& plan) {
        *plan.id == 'A', 3, true, false});
 }
 
-/// The stronger partner stands first, and the team enters with the mean of both averages.
+/// What the director types beside an entry that was just made.
+void PlaceEntry(Work& work, const SampleClass& plan, const char* table, const char* entrant,
+                const Value& id) {
+  work.connection.Execute(
+      QStringLiteral("UPDATE %1 SET Paid = ?, ClassID = ? WHERE SanctionID = ? AND %2 = ?")
+          .arg(QLatin1String(table), QLatin1String(entrant)),
+      {Fee, plan.id, work.plan.sanctionID, id});
+}
+
 void EnterTeams(Work& work, const SampleClass& plan) {
   for (int i = 0; i < plan.entrants; ++i) {
     const SampleTeam& team = work.teams[i];
-    SamplePlayer one = team.one;
-    SamplePlayer two = team.two;
-    double averageOne = EntryAverage(work.connection, one.id, one.category, work.plan.date);
-    double averageTwo = EntryAverage(work.connection, two.id, two.category, work.plan.date);
-    if (averageTwo > averageOne) {
-      std::swap(one, two);
-      std::swap(averageOne, averageTwo);
-    }
-    work.connection.Execute(
-        "INSERT INTO TournamentTeamEntrants (SanctionID, TeamID, Paid, RingerPercent, ClassID, "
-        "PlayerOneID, PlayerTwoID) VALUES (?, ?, ?, ?, ?, ?, ?)",
-        {work.plan.sanctionID, team.id, Fee, (averageOne + averageTwo) / 2, plan.id, one.id,
-         two.id});
-    work.entered << one.id << two.id;
+    const RowCheck check =
+        EnterTeam(work.connection, work.plan.sanctionID, team.id, work.plan.date);
+    if (check.verdict != RowCheck::Verdict::Save) throw Error(errors::RecordState, check.message);
+    PlaceEntry(work, plan, "TournamentTeamEntrants", "TeamID", team.id);
+    work.entered << team.one.id << team.two.id;
   }
 }
 
@@ -71,12 +69,8 @@ void EnterPlayers(Work& work, const SampleClass& plan) {
   for (const SamplePlayer& player : work.players) {
     if (missing == 0) return;
     if (work.entered.contains(player.id) || work.dice.Below(3) != 0) continue;
-    work.connection.Execute(
-        "INSERT INTO TournamentEntrants (SanctionID, PlayerID, Paid, RingerPercent, ClassID) "
-        "VALUES "
-        "(?, ?, ?, ?, ?)",
-        {work.plan.sanctionID, player.id, Fee,
-         EntryAverage(work.connection, player.id, player.category, work.plan.date), plan.id});
+    EnterPlayer(work.connection, work.plan.sanctionID, player.id, player.category, work.plan.date);
+    PlaceEntry(work, plan, "TournamentEntrants", "PlayerID", player.id);
     work.entered << player.id;
     --missing;
   }

@@ -170,6 +170,41 @@ TEST_F(SampleClubTest, TotalsOfTheEntriesAreTheSumsOfTheirGames) {
             "1");
 }
 
+TEST_F(SampleClubTest, EverybodyEntersWithAnAverageHePitchesNear) {
+  // 160 shoes at least, thrown at the skill that the average stands for: four standard deviations
+  // of their percent are 4 * sqrt(0.25 / 160) = 16 points.
+  const QString off =
+      " WHERE SanctionID <> 'OH26067' AND abs(100.0 * TotalRingers / TotalShoes - "
+      "RingerPercent) > 16";
+  for (const QString table : {"TournamentEntrants", "TournamentTeamEntrants"}) {
+    EXPECT_EQ(db->Count(table + " WHERE RingerPercent < 5 OR RingerPercent > 90"), 0);
+    EXPECT_EQ(db->Count(table + off), 0) << table.toStdString();
+    EXPECT_EQ(db->Count(table + " WHERE Paid <> 12.5 OR ClassID = '' OR ClassID IS NULL"), 0);
+  }
+}
+
+TEST_F(SampleClubTest, SomeEnterTheOpenTournamentByTheirResults) {
+  // At most two results each, so that the rule pools them all.
+  const QString results =
+      "(SELECT PlayerID, 100.0 * sum(Ringers) / sum(Shoes) AS Pooled FROM PlayerScores GROUP BY "
+      "PlayerID)";
+  const QString withoutAverage =
+      "TournamentEntrants e JOIN Players p ON p.PlayerID = e.PlayerID JOIN " + results +
+      " r ON r.PlayerID = e.PlayerID WHERE e.SanctionID = 'OH26067' AND p.Average = 0";
+  EXPECT_GT(db->Count(withoutAverage), 0);
+  EXPECT_EQ(db->Count(withoutAverage + " AND abs(e.RingerPercent - r.Pooled) > 0.000001"), 0);
+  EXPECT_EQ(db->Count("TournamentEntrants e JOIN Players p ON p.PlayerID = e.PlayerID WHERE "
+                      "p.Average <> 0 AND e.RingerPercent <> p.Average"),
+            0);
+}
+
+TEST_F(SampleClubTest, TheStrongerPartnerOfEveryTeamStandsFirst) {
+  EXPECT_EQ(db->Count("TournamentTeamEntrants e JOIN Players one ON one.PlayerID = e.PlayerOneID "
+                      "JOIN Players two ON two.PlayerID = e.PlayerTwoID WHERE one.Average <> 0 AND "
+                      "one.Average < two.Average"),
+            0);
+}
+
 TEST_F(SampleClubTest, EveryPlayerOfThePastTournamentsHasOneResult) {
   // 8 + 6 + 7 in singles, 6 teams of two, 10 + 5.
   EXPECT_EQ(db->Count("PlayerScores"), 21 + 12 + 15);
