@@ -16,7 +16,7 @@ void FillClubFile(sqlite3* db) {
                  .arg(ClubFileFormat));
   for (const TableDefinition& table : ClubTables()) CreateClubTable(db, table.name);
   for (const SettingDefinition& setting : ClubSettings()) InsertClubSetting(db, setting);
-  EnsureDeleteRules(db);
+  EnsureKeyRules(db);
   RunSql(db, QStringLiteral("COMMIT"));
 }
 

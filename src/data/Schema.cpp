@@ -82,6 +82,15 @@ QString TriggerOf(const DeleteRule& rule) {
       .arg(parent, QLatin1String(rule.child), QLatin1String(rule.same), QLatin1String(rule.action));
 }
 
+/// A sanction number that is mended takes along what is kept under it.
+QString RenumberTriggerOf(const char* child) {
+  return QStringLiteral(
+             "CREATE TRIGGER IF NOT EXISTS Tournaments_Renumber_%1 AFTER UPDATE OF SanctionID ON "
+             "Tournaments WHEN NEW.SanctionID <> OLD.SanctionID AND NOT EXISTS (SELECT 1 FROM "
+             "Tournaments WHERE %2) BEGIN UPDATE %1 SET SanctionID = NEW.SanctionID WHERE %2; END")
+      .arg(QLatin1String(child), QLatin1String(SameTournament));
+}
+
 }  // namespace
 
 void CreateClubTable(sqlite3* db, const char* table) {
@@ -104,9 +113,11 @@ void EnsureIndexes(sqlite3* db) {
   }
 }
 
-void EnsureDeleteRules(sqlite3* db) {
+void EnsureKeyRules(sqlite3* db) {
   for (const DeleteRule& rule : DeleteRules) {
-    if (HasTable(db, rule.parent) && HasTable(db, rule.child)) RunSql(db, TriggerOf(rule));
+    if (!HasTable(db, rule.parent) || !HasTable(db, rule.child)) continue;
+    RunSql(db, TriggerOf(rule));
+    if (rule.same == SameTournament) RunSql(db, RenumberTriggerOf(rule.child));
   }
 }
 

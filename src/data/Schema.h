@@ -62,10 +62,11 @@ void CreateClubTable(sqlite3* db, const char* table);
 void AddClubColumn(sqlite3* db, const char* table, const char* column);
 /// Gives every table that is there the indexes of ClubTables. Safe to repeat.
 void EnsureIndexes(sqlite3* db);
-/// Puts the rules of deletion in force, as far as the tables they speak of exist: a deleted
+/// Puts the rules of keys in force, as far as the tables they speak of exist: a deleted
 /// tournament takes its classes, entries, games, report groups and posted scores along, a deleted
-/// class its games and report rows, while its entries stay and are unplaced. Safe to repeat.
-void EnsureDeleteRules(sqlite3* db);
+/// class its games and report rows, while its entries stay and are unplaced; a tournament given
+/// another sanction number takes all of them along to it. Safe to repeat.
+void EnsureKeyRules(sqlite3* db);
 
 /// Makes a new club file with all tables and settings at the present version; its folder is made
 /// when it is missing. The file appears whole or not at all. Refused when a file of that name

@@ -136,7 +136,7 @@ QString VersionOf(Connection& connection) {
 void RunAllSteps(Connection& connection) {
   RunUpgradeSteps(connection);
   EnsureIndexes(connection.Handle());
-  EnsureDeleteRules(connection.Handle());
+  EnsureKeyRules(connection.Handle());
 }
 
 /// Walks the steps and gives the work up again: true when they would write something.

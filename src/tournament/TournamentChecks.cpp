@@ -41,12 +41,14 @@ QString BrokenClassRule(const RowValues& row, const Value& handicap) {
 
 }  // namespace
 
-RowCheck CheckTournament(const RowValues& row, bool newRow, Recordset& others) {
+RowCheck CheckTournament(const RowValues& row, bool newRow, Recordset& others,
+                         const QString& storedNumber) {
   RowCheck check;
   const QString sanction = row.value("SanctionID").Trimmed();
   if (sanction.isEmpty()) return check.Drop();
   if (sanction.size() != 7) return check.Refuse("Invalid sanction number");
-  if (newRow && IsTaken(others, "SanctionID", sanction))
+  const bool changed = !storedNumber.isEmpty() && CompareText(storedNumber, sanction) != 0;
+  if ((newRow || changed) && IsTaken(others, "SanctionID", sanction))
     return check.Refuse("Duplicate sanction number");
   if (!IsDate(row.value("Date"))) return check.UndoAndStay("Invalid tournament date");
   check.Fix("SanctionID", sanction);

@@ -235,8 +235,9 @@ void uctTournaments::GridEX1_RowColChange(int lastRow, int lastCol) {
 }
 
 void uctTournaments::GridEX1_BeforeUpdate(GridUpdate& event) {
+  const QString stored = event.newRow ? QString() : data_->tournaments["SanctionID"].Trimmed();
   const RowCheck check =
-      CheckTournament(CurrentRow(*GridEX1_), event.newRow, data_->tournamentKeys);
+      CheckTournament(CurrentRow(*GridEX1_), event.newRow, data_->tournamentKeys, stored);
   Settle(check, *GridEX1_, event);
   if (check.verdict != RowCheck::Verdict::Save) return;
   // The other screens offer first the tournament that was worked on last.

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QTemporaryDir>
 
 #include "basic/Error.h"
@@ -140,6 +141,35 @@ TEST_F(SchemaTest, DeletingATournamentTakesAllThatIsItsOwnAndNothingElse) {
     EXPECT_EQ(db.Count(name + " WHERE SanctionID = 'TX05002'"), 1) << table;
   }
   EXPECT_EQ(db.Count("LeagueScores"), 1);
+}
+
+TEST_F(SchemaTest, AMendedSanctionNumberTakesAlongAllThatIsKeptUnderIt) {
+  DeliverClubFile(file);
+  PlainDatabase db(file);
+  Fill(db);
+  const QStringList tables = {
+      "TournamentClasses",   "TournamentEntrants", "TournamentTeamEntrants", "TournamentSinglesRR",
+      "TournamentDoublesRR", "ReportGroup",        "ReportGroupClass",       "PlayerScores"};
+  QHash<QString, int> before;
+  for (const QString& table : tables)
+    before[table] = db.Count(table + " WHERE SanctionID = 'TX05001'");
+  db.Run("UPDATE Tournaments SET SanctionID = 'TX05009' WHERE SanctionID = 'TX05001'");
+  for (const QString& table : tables) {
+    EXPECT_EQ(db.Count(table + " WHERE SanctionID = 'TX05009'"), before[table])
+        << table.toStdString();
+    EXPECT_EQ(db.Count(table + " WHERE SanctionID = 'TX05001'"), 0);
+    EXPECT_EQ(db.Count(table + " WHERE SanctionID = 'TX05002'"), 1);
+  }
+}
+
+TEST_F(SchemaTest, TheNumberOfOneOfTwoRowsOfATournamentTakesNothingAlong) {
+  DeliverClubFile(file);
+  PlainDatabase db(file);
+  Fill(db);
+  db.Run(
+      "INSERT INTO Tournaments (SanctionID) VALUES ('TX05001');"
+      "UPDATE Tournaments SET SanctionID = 'TX05009' WHERE rowid = 3");
+  EXPECT_EQ(db.Count("TournamentEntrants WHERE SanctionID = 'TX05009'"), 0);
 }
 
 TEST_F(SchemaTest, DeletingAClassTakesItsGamesAndLeavesItsEntriesUnplaced) {

@@ -63,6 +63,16 @@ TEST(TournamentChecks, ANewTournamentMayNotTakeAStoredNumberButAStoredOneKeepsIt
   EXPECT_EQ(CheckTournament(Tournament("WI25B02"), false, others).verdict, Verdict::Save);
 }
 
+TEST(TournamentChecks, AStoredNumberIsMendedButNotIntoAnotherTournaments) {
+  Recordset others = Keys("SanctionID", {"MN25A01", "WI25B02"});
+  const auto message = [&](const char* number) {
+    return CheckTournament(Tournament(number), false, others, "MN25A01").message;
+  };
+  EXPECT_EQ(message("WI25B02"), "Duplicate sanction number");
+  EXPECT_EQ(message("MN25A02"), "");
+  EXPECT_EQ(message("mn25a01"), "");
+}
+
 TEST(TournamentChecks, ARowWithoutItsKeyIsDroppedWithoutAWordAtBothLevels) {
   for (const char* blank : {"", "   "}) {
     const RowCheck tournament = CheckNewTournament(Tournament(blank, Value()));

@@ -98,6 +98,33 @@ TEST_F(uctTournamentsTest, AStoredTournamentKeepsItsNumberWhenItsNameIsMended) {
   EXPECT_EQ(bench.store().GetRegistryString({}, "RecentTournament"), "MN-25-A01   Fall Open");
 }
 
+TEST_F(uctTournamentsTest, AMendedNumberKeepsItsClassesAndEntries) {
+  AddTournament("MN25A01");
+  file.Execute("INSERT INTO TournamentClasses (SanctionID, ClassID) VALUES ('MN25A01', 'A')");
+  file.Execute("INSERT INTO TournamentEntrants (SanctionID, PlayerID) VALUES ('MN25A01', 'X')");
+  Show();
+  Tournaments().SetRow(1);
+  Tournaments().SetCol("SanctionID");
+  bench.Type("MN-25-A02");
+  EXPECT_TRUE(Tournaments().CommitRow()) << bench.Message().toStdString();
+  EXPECT_EQ(Ask("SELECT SanctionID FROM TournamentClasses"), Value("MN25A02"));
+  EXPECT_EQ(Ask("SELECT SanctionID FROM TournamentEntrants"), Value("MN25A02"));
+  ChooseFirstTournament();
+  EXPECT_EQ(Classes().RowCount(), 1);
+}
+
+TEST_F(uctTournamentsTest, AMendedNumberIsNotThatOfAnotherTournament) {
+  AddTournament("MN25A01", "6/20/2025");
+  AddTournament("WI25B02", "6/1/2025");
+  Show();
+  Tournaments().SetRow(1);
+  Tournaments().SetCol("SanctionID");
+  bench.Type("WI25B02");
+  EXPECT_FALSE(Tournaments().CommitRow());
+  EXPECT_EQ(bench.Message(), "Duplicate sanction number");
+  EXPECT_EQ(Ask("SELECT COUNT(*) FROM Tournaments WHERE SanctionID = 'WI25B02'").ToWhole(), 1);
+}
+
 TEST_F(uctTournamentsTest, ARowWithoutANumberVanishesWithoutAWord) {
   AddTournament("WI25B02");
   Show();
