@@ -1,10 +1,13 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
 
 namespace tavrelin {
 
@@ -71,12 +74,20 @@ class FaultBench {
   }
 
   Outcome Run(const QString& program, const QStringList& arguments) const {
+    // What a struck program leaves lying goes with this folder.
+    const QTemporaryDir scratch;
+    QProcessEnvironment environment = environment_;
+    environment.insert(QStringLiteral("TMPDIR"), scratch.path());
     QProcess process;
-    process.setProcessEnvironment(environment_);
+    process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::SeparateChannels);
     process.start(program, arguments);
     Outcome outcome;
-    if (!process.waitForStarted() || !process.waitForFinished(60000)) return outcome;
+    if (!process.waitForStarted()) return outcome;
+    if (!process.waitForFinished(60000)) {
+      ADD_FAILURE() << "the struck program hangs";
+      return outcome;
+    }
     outcome.output = QString::fromUtf8(process.readAllStandardOutput());
     outcome.killed = process.exitStatus() == QProcess::CrashExit || process.exitCode() == 137;
     outcome.exitCode = process.exitCode();
