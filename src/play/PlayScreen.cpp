@@ -26,6 +26,7 @@
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
 #include "shell/Store.h"
+#include "shell/StoredValues.h"
 #include "tournament/Entries.h"
 #include "tournament/TournamentBox.h"
 
@@ -106,8 +107,7 @@ void PlayScreen::UserControl_Show() {
   ReadPaperSettings();
   SSTab1_->setCurrentIndex(0);
   data_->tournaments = TournamentChoices(data_->connection);
-  cboTournaments_->Offer(data_->tournaments,
-                         around().store.GetRegistryString({}, "RecentTournament"));
+  cboTournaments_->Offer(data_->tournaments, around().store.Get(stored::RecentTournament));
   cboTournaments_LostFocus();
   (cboClasses_->count() > 0 ? static_cast<QWidget*>(cboClasses_) : cboTournaments_)->setFocus();
 }
@@ -123,22 +123,22 @@ void PlayScreen::UserControl_Hide() {
 
 void PlayScreen::RestoreChoices() {
   const Store& store = around().store;
-  chkChecker_->setChecked(store.GetRegistryString({}, "ScoreCheck", "0") == "1");
-  chkForfeit_->setChecked(store.GetRegistryString({}, "Forfeit", "0") == "1");
+  chkChecker_->setChecked(store.Get(stored::ScoreCheck) == "1");
+  chkForfeit_->setChecked(store.Get(stored::Forfeit) == "1");
   chkChecker_Click();
   chkForfeit_Click();
-  Frame3_->SetBrief(store.GetRegistryString({}, "BriefReport", "0") == "1");
-  Frame4_->SetPath(store.GetPath("TournamentPath"));
+  Frame3_->SetBrief(store.Get(stored::BriefReport) == "1");
+  Frame4_->SetPath(store.Get(stored::TournamentPath));
 }
 
 void PlayScreen::StoreChoices() {
   Store& store = around().store;
-  store.SaveRegistryString({}, "RecentTournament", cboTournaments_->currentText().trimmed());
-  store.SaveRegistryString({}, "TournamentPath", Frame4_->Path().trimmed());
+  store.Save(stored::RecentTournament, cboTournaments_->currentText().trimmed());
+  store.Save(stored::TournamentPath, Frame4_->Path().trimmed());
   if (!IsSingles()) return;
-  store.SaveRegistryString({}, "ScoreCheck", chkChecker_->isChecked() ? "1" : "0");
-  store.SaveRegistryString({}, "Forfeit", chkForfeit_->isChecked() ? "1" : "0");
-  store.SaveRegistryString({}, "BriefReport", Frame3_->IsBrief() ? "1" : "0");
+  store.Save(stored::ScoreCheck, chkChecker_->isChecked() ? "1" : "0");
+  store.Save(stored::Forfeit, chkForfeit_->isChecked() ? "1" : "0");
+  store.Save(stored::BriefReport, Frame3_->IsBrief() ? "1" : "0");
 }
 
 bool PlayScreen::IsSingles() const {

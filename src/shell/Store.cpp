@@ -190,8 +190,4 @@ bool Store::Save(const StoredValue& value, const QString& text, const QString& s
                             QLatin1String(value.name), text);
 }
 
-QString Store::GetPath(const QString& name) const {
-  return UsableFolder(GetRegistryString({}, name, QLatin1String(DataFolder)));
-}
-
 }  // namespace tavrelin

@@ -29,15 +29,12 @@ class Store {
   /// nothing.
   QString GetMachineRegistryString(const QString& section, const QString& name,
                                    const QString& fallback = {}) const;
-  /// One of the values of StoredValues.h, with its default and, when it is a folder, by the rule of
-  /// folders. `section` goes before the value's own, for values that stand in many.
+  /// One of the values of StoredValues.h, with its default. A folder that holds "C:\Program Files"
+  /// anywhere, case counted, gives way to "C:\TavrelinData\". `section` goes before the value's
+  /// own, for values that stand in many.
   QString Get(const StoredValue& value, const QString& section = {}) const;
   /// False when it cannot be kept.
   bool Save(const StoredValue& value, const QString& text, const QString& section = {});
-  /// A stored folder of the root, by the rule of folders: "C:\TavrelinData\" stands in for a
-  /// missing one and for one that holds "C:\Program Files" anywhere, case counted.
-  QString GetPath(const QString& name) const;
-
   const QString& File() const { return file_; }
 
  private:

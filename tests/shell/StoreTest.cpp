@@ -125,11 +125,11 @@ TEST_F(StoreTest, TheMachineStoreIsReadWhereTheEnvironmentNamesItAndNowhereElse)
 }
 
 TEST_F(StoreTest, APathUnderProgramFilesReadsAsTheDataFolder) {
-  EXPECT_EQ(store.GetPath("TournamentPath"), "C:\\TavrelinData\\");
+  EXPECT_EQ(store.Get(stored::TournamentPath), "C:\\TavrelinData\\");
   store.SaveRegistryString("", "TournamentPath", "D:\\x\\C:\\Program Files\\Old\\");
-  EXPECT_EQ(store.GetPath("TournamentPath"), "C:\\TavrelinData\\");
+  EXPECT_EQ(store.Get(stored::TournamentPath), "C:\\TavrelinData\\");
   store.SaveRegistryString("", "TournamentPath", "c:\\program files\\Old\\");
-  EXPECT_EQ(store.GetPath("TournamentPath"), "c:\\program files\\Old\\");
+  EXPECT_EQ(store.Get(stored::TournamentPath), "c:\\program files\\Old\\");
 }
 
 struct Default {
