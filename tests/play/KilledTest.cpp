@@ -4,6 +4,7 @@
 
 #include "play/ClassBench.h"
 #include "play/Ranking.h"
+#include "play/RankOverride.h"
 #include "support/FaultBench.h"
 
 namespace tavrelin {
@@ -19,6 +20,20 @@ TEST(KilledChild, DISABLED_Rank) {
   EXPECT_EQ(RankTheClass(connection, FindClass(connection, "2601007", "A").value()).refusal, "");
 }
 
+/// One that sets the places of a class as the director wants them: the other way round.
+TEST(KilledChild, DISABLED_Override) {
+  Connection connection;
+  connection.Open("DBQ=" + qEnvironmentVariable(FileName));
+  ClassRules rules = FindClass(connection, "2601007", "A").value();
+  Standings standings = RankTheClass(connection, rules);
+  int place = standings.rows.RecordCount();
+  for (; !standings.rows.AtEnd(); standings.rows.MoveNext()) {
+    standings.rows.Set("Override", place--);
+    standings.rows.Update();
+  }
+  EXPECT_EQ(ApplyOverride(connection, rules, standings.rows), "");
+}
+
 class KilledTest : public ClassBench {
  protected:
   /// Everything that a rule of play may write.
@@ -26,7 +41,8 @@ class KilledTest : public ClassBench {
     Connection connection;
     connection.Open("DBQ=" + path);
     QStringList all;
-    for (const QString table : {"TournamentSinglesRR", "TournamentEntrants"}) {
+    for (const QString table : {"TournamentClasses", "TournamentSinglesRR", "TournamentEntrants",
+                                "TournamentDoublesRR", "TournamentTeamEntrants"}) {
       Recordset rows;
       for (rows.Open("SELECT * FROM " + table, connection); !rows.AtEnd(); rows.MoveNext()) {
         QString line;
@@ -89,6 +105,31 @@ TEST_F(KilledTest, ARankingIsThereWholeOrNotAtAll) {
     }
   }
   ExpectWholeOrNothing(FaultBench::Worker("KilledChild.DISABLED_Rank"));
+}
+
+TEST_F(KilledTest, APairingOfTeamsIsThereWholeOrNotAtAll) {
+  MakeDoubles(9);
+  ExpectWholeOrNothing({TAVRELIN_BINARY_DIR "/src/app/tavrelinctl", "pair", Copy(), "26-01-007",
+                        "A", "--pacer", "--rounds", "4"});
+}
+
+TEST_F(KilledTest, ARankingOfTeamsIsThereWholeOrNotAtAll) {
+  MakeDoubles(12);
+  {
+    Batch batch(connection_);
+    for (int one = 1; one <= 12; ++one) {
+      for (int two = one + 1; two <= 12; ++two) {
+        StoreTeams({one, two, {one, two}, {{one, 1}, {two, 2}}});
+      }
+    }
+  }
+  ExpectWholeOrNothing(FaultBench::Worker("KilledChild.DISABLED_Rank"));
+}
+
+TEST_F(KilledTest, PlacesSetByHandAreThereAllOfThemOrNone) {
+  MakeSingles(12);
+  RankTheClass(connection_, Rules());  // the ranking before it has nothing left to change
+  ExpectWholeOrNothing(FaultBench::Worker("KilledChild.DISABLED_Override"));
 }
 
 }  // namespace
