@@ -51,8 +51,8 @@ enum class CellEditor {
 };
 
 /// By what a column sorts. Numeric and Date also order a text field by the number or the date that
-/// its text reads as.
-enum class SortKind { Text, Numeric, Date };
+/// its text reads as; Shown goes by the text of the value list in place of the code.
+enum class SortKind { Text, Numeric, Date, Shown };
 
 /// One column of a grid, as data: the same table feeds the grid, its tests and the screen reader.
 /// Members have the order in which they are usually named:

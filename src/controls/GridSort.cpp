@@ -25,6 +25,11 @@ Value SortValue(const Value& value, SortKind kind) {
   return kind == SortKind::Text ? value : Value();
 }
 
+Value ShownText(const ValueList& values, const Value& code) {
+  const int item = values.IndexOf(code);
+  return item >= 0 ? Value(values.Items()[item].text) : code;
+}
+
 struct SortedField {
   std::vector<Value> values;  // by position, the first unused
   int sign = 1;
@@ -34,10 +39,12 @@ SortedField Fetch(const Recordset& recordset, const ColumnOrder& key) {
   SortedField sorted{{}, key.order == SortOrder::Ascending ? 1 : -1};
   const int field = recordset.FieldIndex(key.column.field);
   const bool text = IsText(recordset.Fields()[field].type);
-  const SortKind kind = text ? key.column.sort : SortKind::Text;
+  const bool shown = key.column.sort == SortKind::Shown;
+  const SortKind kind = text && !shown ? key.column.sort : SortKind::Text;
   sorted.values.resize(static_cast<size_t>(recordset.RecordCount()) + 1);
   for (size_t i = 1; i < sorted.values.size(); ++i) {
-    sorted.values[i] = SortValue(recordset.CellAt(static_cast<int>(i), field), kind);
+    const Value cell = recordset.CellAt(static_cast<int>(i), field);
+    sorted.values[i] = shown ? ShownText(key.column.values, cell) : SortValue(cell, kind);
   }
   return sorted;
 }
@@ -62,7 +69,8 @@ std::vector<int> OrderBeyondFields(const Recordset& recordset, const QList<Colum
   const QList<ColumnOrder> present = Present(recordset, keys);
   const bool needed = std::any_of(present.begin(), present.end(), [&](const ColumnOrder& key) {
     const Field& field = recordset.Fields()[recordset.FieldIndex(key.column.field)];
-    return key.column.sort != SortKind::Text && IsText(field.type);
+    const bool shown = key.column.sort == SortKind::Shown;
+    return shown || (key.column.sort != SortKind::Text && IsText(field.type));
   });
   if (!needed) return {};
   std::vector<SortedField> fields;

@@ -380,6 +380,32 @@ TEST_F(uctEntrantsTest, AHeaderClickSortsWithThePercentBehind) {
   EXPECT_EQ(Entered().SortKeys()[0].order, SortOrder::Descending);
 }
 
+TEST_F(uctEntrantsTest, NamesAndDivisionsSortAsTheyReadEqualOnesByStrength) {
+  file.Execute("UPDATE Players SET LastName = 'Zorn', Category = 'EM' WHERE PlayerID = 'ADAANN'");
+  bench.Show<uctEntrants>();
+  for (int row : {1, 2, 3}) Enter(Players(), row);
+  ClickHeading(Entered(), "PlayerID");
+  EXPECT_EQ(TextsOf(Entered(), "PlayerID"),
+            (QStringList{"Beech, Bob", "O'Brien, Al", "Zorn, Ann"}));
+  ClickHeading(Entered(), "PlayerID");
+  EXPECT_EQ(TextsOf(Entered(), "PlayerID"),
+            (QStringList{"Zorn, Ann", "O'Brien, Al", "Beech, Bob"}));
+  ClickHeading(Entered(), "Category");
+  EXPECT_EQ(TextsOf(Entered(), "Category"), (QStringList{"Elder", "Men", "Men"}));
+  EXPECT_EQ(TextsOf(Entered(), "RingerPercent"), (QStringList{"61.50", "40.00", "0.00"}));
+}
+
+TEST_F(uctEntrantsTest, TeamsSortByTheirNames) {
+  file.Execute("INSERT INTO Teams (TeamID, Team) VALUES (3, 'Aces')");
+  for (const char* id : {"ADAANN", "OBRAL0"})
+    file.Execute("INSERT INTO TeamPlayers (TeamID, PlayerID) VALUES (3, ?)", {id});
+  bench.Show<uctEntrants>();
+  OpenDoubles();
+  for (int row : {1, 2}) Enter(Teams(), row);
+  ClickHeading(TeamsEntered(), "TeamID");
+  EXPECT_EQ(TextsOf(TeamsEntered(), "TeamID"), (QStringList{"Aces", "Iron Pair"}));
+}
+
 TEST_F(uctEntrantsTest, AnEntryOfAPlayerDeletedFromTheRosterSaysSo) {
   bench.Show<uctEntrants>();
   Enter(Players(), 1);
