@@ -32,9 +32,9 @@ void DemoOperator::Tell(const QString& title, const QString& text) {
   std::printf("%s: %s\n", qPrintable(title), qPrintable(text));
 }
 
-bool DemoPrinter::Print(const QString& title, const Report& report, int) {
+Printed DemoPrinter::Print(const QString& title, const Report& report, int) {
   folder_.KeepPaper(Record(OutputTarget::Kind::Printer, title, report), name_);
-  return true;
+  return Printed::OnPaper;
 }
 
 void DemoPrinter::Preview(const QString& title, const Report& report) {

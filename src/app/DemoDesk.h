@@ -48,7 +48,7 @@ class DemoPrinter : public Printer {
 
   /// Names what comes next.
   void Expect(const QString& name) { name_ = name; }
-  bool Print(const QString& title, const Report& report, int copies) override;
+  Printed Print(const QString& title, const Report& report, int copies) override;
   void Preview(const QString& title, const Report& report) override;
 
  private:

@@ -4,11 +4,11 @@
 #include <array>
 #include <optional>
 #include <QFile>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 #include "basic/Error.h"
 #include "basic/PlatformPath.h"
+#include "basic/WholeFile.h"
 
 namespace tavrelin {
 
@@ -53,16 +53,6 @@ std::optional<QString> AsUtf8(const QByteArray& bytes) {
   throw Error(errors::File, file.errorString());
 }
 
-// On a disk that fills up, a write says that it wrote a part; only the next one fails, and says
-// why.
-void WriteAll(QSaveFile& file, QByteArrayView bytes) {
-  while (!bytes.isEmpty()) {
-    const qint64 written = file.write(bytes.data(), bytes.size());
-    if (written <= 0) Fail(file);
-    bytes = bytes.sliced(written);
-  }
-}
-
 }  // namespace
 
 QByteArray EncodeText(const QString& text) {
@@ -91,10 +81,7 @@ void WriteTextFile(const QString& path, const QString& text) {
   QString lines = text;
   lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   lines.replace(u'\n', QStringLiteral("\r\n"));
-  QSaveFile file(PlatformPath(path));
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) Fail(file);
-  WriteAll(file, EncodeText(lines));
-  if (!file.commit()) Fail(file);
+  WriteWholeFile(PlatformPath(path), EncodeText(lines));
 }
 
 QString ReadTextFile(const QString& path) {

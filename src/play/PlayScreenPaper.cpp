@@ -23,8 +23,6 @@ namespace tavrelin {
 
 namespace {
 
-const char* const SentToPrinter = "Document has been sent to printer";
-
 QString TitleOf(const ClassResults& results) {
   return results.tournament + " - " + results.className;
 }
@@ -52,9 +50,10 @@ void PlayScreen::cmdPrintPair_Click() {
   if (!job.question.isEmpty() && !around().person.Confirm(job.title, job.question)) return;
   if (!job.Prints()) return;
   const Report report = [&job](OutputTarget& target) { PrintCards(target, job); };
-  if (!around().printer.Print(job.name, report)) return;
+  const Printed printed = around().printer.Print(job.name, report);
+  if (printed == Printed::Nowhere) return;
   Frame2_->SelectFace(job.nextFace);
-  Say(SentToPrinter);
+  Say(PrintedText(printed));
   ReturnToGames();
 }
 
@@ -63,10 +62,12 @@ void PlayScreen::cmdPrintPair_Click() {
 void PlayScreen::cmdPrintResults_Click() {
   const std::optional<ClassResults> results = ResultsForPaper();
   if (!results) return;
-  if (!around().printer.Print(TitleOf(*results), SheetOf(*results), Frame3_->Copies())) return;
+  const Printed printed =
+      around().printer.Print(TitleOf(*results), SheetOf(*results), Frame3_->Copies());
+  if (printed == Printed::Nowhere) return;
   Frame3_->ResetCopies();
   around().person.Beep();
-  Say(SentToPrinter);
+  Say(PrintedText(printed));
   ReturnToGames();
 }
 

@@ -55,6 +55,13 @@ class MarkPainter {
 
 }  // namespace
 
+QPageLayout LetterPage(Orientation orientation) {
+  return QPageLayout(
+      QPageSize(QPageSize::Letter),
+      orientation == Orientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+      QMarginsF());
+}
+
 void PaintPage(QPainter& painter, const Page& page) {
   painter.save();
   MarkPainter draw(painter);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPageLayout>
 #include <QString>
 #include <variant>
 
@@ -53,6 +54,9 @@ struct Document {
 
   friend bool operator==(const Document&, const Document&) = default;
 };
+
+/// The paper that a page is printed on: Letter, without margins.
+QPageLayout LetterPage(Orientation orientation);
 
 /// Draws one page. The painter's unit must be the twip, its origin the page's top left; its pen,
 /// font and transformation are as before when the call returns.

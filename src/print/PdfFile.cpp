@@ -1,12 +1,11 @@
 #include "print/PdfFile.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 #include "basic/Error.h"
+#include "basic/WholeFile.h"
 #include "print/Document.h"
 
 namespace tavrelin {
@@ -14,18 +13,6 @@ namespace tavrelin {
 namespace {
 
 constexpr int TwipsPerInch = 1440;
-
-QPageLayout LetterPage(Orientation orientation) {
-  return QPageLayout(
-      QPageSize(QPageSize::Letter),
-      orientation == Orientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-      QMarginsF());
-}
-
-[[noreturn]] void Refuse(const QString& path, const QString& reason) {
-  throw Error(errors::File, QStringLiteral("The PDF file %1 could not be written: %2")
-                                .arg(QDir::toNativeSeparators(path), reason));
-}
 
 }  // namespace
 
@@ -52,13 +39,10 @@ QByteArray PdfBytes(const Document& document) {
 
 void WritePdf(const Document& document, const QString& path) {
   const QByteArray bytes = PdfBytes(document);
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) Refuse(path, file.errorString());
-  // A disk that fills up is told by flush alone: commit would rename the piece that fitted.
-  if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit()) {
-    const QString reason = file.errorString();
-    file.cancelWriting();
-    Refuse(path, reason);
+  try {
+    WriteWholeFile(path, bytes);
+  } catch (const Error& error) {
+    throw Error(errors::File, QStringLiteral("Unable to open file. ") + error.description());
   }
 }
 

@@ -27,6 +27,8 @@ constexpr int LineStep = 40;  // pixels that an arrow key scrolls
 constexpr double SmallestZoom = 0.25;
 constexpr double LargestZoom = 4;
 constexpr double ZoomStep = 1.25;
+constexpr int Notch = QWheelEvent::DefaultDeltasPerStep;
+constexpr int ToolGap = 8;
 
 int Pixels(const Store& store, const StoredValue& twips) {
   return PixelsOf(static_cast<int>(Val(store.Get(twips))));
@@ -37,7 +39,8 @@ int Pixels(const Store& store, const StoredValue& twips) {
 frmReport::frmReport(Store& store, QWidget* parent)
     : QDialog(parent),
       store_(store),
-      tools_(new QWidget(this)),
+      paperTools_(NewRow()),
+      zoomTools_(NewRow()),
       picture1_(new QWidget(this)),
       picture2_(new PageSurface(picture1_)),
       vScroll1_(Bar(QStringLiteral("VScroll1"), Qt::Vertical)),
@@ -55,7 +58,9 @@ frmReport::frmReport(Store& store, QWidget* parent)
   BuildTools();
   connect(vScroll1_, &QScrollBar::valueChanged, this, &frmReport::VScroll1_Change);
   connect(hScroll1_, &QScrollBar::valueChanged, this, &frmReport::HScroll1_Change);
-  setMinimumSize(tools_->minimumSizeHint().width(), SmallestHeight);
+  setMinimumSize(
+      std::max(paperTools_->minimumSizeHint().width(), zoomTools_->minimumSizeHint().width()),
+      SmallestHeight);
   SetPagePortrait();
 }
 
@@ -70,58 +75,68 @@ QScrollBar* frmReport::Bar(const QString& name, Qt::Orientation orientation) {
   return bar;
 }
 
-QAbstractButton* frmReport::Tool(QAbstractButton* button, const QString& name, const QString& text,
-                                 const QString& tip) {
+QWidget* frmReport::NewRow() {
+  auto* row = new QWidget(this);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(8, 8, 8, 8);
+  layout->setSpacing(8);
+  return row;
+}
+
+void frmReport::Tool(QAbstractButton* button, const QString& name, const QString& text,
+                     const QString& tip, const std::function<void()>& action) {
   button->setObjectName(name);
   button->setText(text);
   button->setToolTip(tip);
   button->setAccessibleName(tip);
-  tools_->layout()->addWidget(button);
-  return button;
-}
-
-QAbstractButton* frmReport::WordTool(const QString& name, const QString& text, const QString& tip) {
-  auto* button = new QPushButton(tools_);
-  button->setAutoDefault(false);
-  return Tool(button, name, text, tip);
-}
-
-QAbstractButton* frmReport::SignTool(const QString& name, const QString& text, const QString& tip) {
-  auto* button = new QToolButton(tools_);
   button->setFocusPolicy(Qt::TabFocus);
-  return Tool(button, name, text, tip);
+  button->parentWidget()->layout()->addWidget(button);
+  connect(button, &QAbstractButton::clicked, this, action);
 }
 
 void frmReport::BuildTools() {
-  auto* row = new QHBoxLayout(tools_);
-  row->setContentsMargins(8, 8, 8, 8);
-  row->setSpacing(8);
-  const auto on = [this](QAbstractButton* button, auto action) {
-    connect(button, &QAbstractButton::clicked, this, action);
-  };
-  on(WordTool(QStringLiteral("cmdPrint"), tr("&Print"), tr("Print the report")),
-     [this] { Run(actions_.print); });
-  on(WordTool(QStringLiteral("cmdSavePdf"), tr("&Save as PDF..."),
-              tr("Save the report as a PDF file")),
-     [this] { Run(actions_.saveAsPdf); });
-  row->addStretch(1);
-  page_ = new QLabel(tools_);
+  BuildPaperTools();
+  BuildZoomTools();
+  for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+}
+
+void frmReport::BuildPaperTools() {
+  auto* row = static_cast<QHBoxLayout*>(paperTools_->layout());
+  Tool(new QPushButton(paperTools_), QStringLiteral("cmdPrint"), tr("&Print"),
+       tr("Print the report"), [this] { Run(actions_.print); });
+  Tool(new QPushButton(paperTools_), QStringLiteral("cmdSavePdf"), tr("&Save as PDF..."),
+       tr("Save the report as a PDF file"), [this] { Run(actions_.saveAsPdf); });
+  page_ = new QLabel(paperTools_);
   page_->setObjectName(QStringLiteral("lblPage"));
-  row->addWidget(page_);
-  row->addStretch(1);
-  on(SignTool(QStringLiteral("cmdZoomOut"), QStringLiteral("\u2212"), tr("Smaller")),
-     [this] { SetZoom(Zoom() / ZoomStep); });
-  zoom_ = new QLabel(tools_);
+  page_->setAlignment(Qt::AlignCenter);
+  row->addWidget(page_, 1);
+}
+
+void frmReport::BuildZoomTools() {
+  auto* row = static_cast<QHBoxLayout*>(zoomTools_->layout());
+  Tool(new QToolButton(zoomTools_), QStringLiteral("cmdZoomOut"), QStringLiteral("\u2212"),
+       tr("Smaller"), [this] { SetZoom(Zoom() / ZoomStep); });
+  zoom_ = new QLabel(zoomTools_);
   zoom_->setObjectName(QStringLiteral("lblZoom"));
   zoom_->setMinimumWidth(zoom_->fontMetrics().horizontalAdvance(QStringLiteral("400%")));
   zoom_->setAlignment(Qt::AlignCenter);
   row->addWidget(zoom_);
-  on(SignTool(QStringLiteral("cmdZoomIn"), QStringLiteral("+"), tr("Larger")),
-     [this] { SetZoom(Zoom() * ZoomStep); });
-  on(WordTool(QStringLiteral("cmdFitWidth"), tr("Fit &Width"), tr("Fit the page to the window")),
-     [this] { FitWidth(); });
-  on(WordTool(QStringLiteral("cmdClose"), tr("&Close"), tr("Close the preview")),
-     [this] { reject(); });
+  Tool(new QToolButton(zoomTools_), QStringLiteral("cmdZoomIn"), QStringLiteral("+"), tr("Larger"),
+       [this] { SetZoom(Zoom() * ZoomStep); });
+  Tool(new QPushButton(zoomTools_), QStringLiteral("cmdFitWidth"), tr("Fit &Width"),
+       tr("Fit the page to the window"), [this] { FitWidth(); });
+  Tool(new QPushButton(zoomTools_), QStringLiteral("cmdClose"), tr("&Close"),
+       tr("Close the preview"), [this] { reject(); });
+}
+
+// Side by side, and one below the other in a window too narrow for that. Returns their foot.
+int frmReport::PlaceTools() {
+  const QSize zoom = zoomTools_->sizeHint();
+  const bool fit = paperTools_->sizeHint().width() + zoom.width() <= width();
+  const int below = fit ? 0 : zoom.height() - ToolGap;
+  paperTools_->setGeometry(0, 0, fit ? width() - zoom.width() : width(), zoom.height());
+  zoomTools_->setGeometry(width() - zoom.width(), below, zoom.width(), zoom.height());
+  return below + zoom.height();
 }
 
 void frmReport::SetPagePortrait() {
@@ -216,12 +231,11 @@ void frmReport::Form_Unload() {
 }
 
 void frmReport::Form_Resize() {
-  const int top = tools_->sizeHint().height();
+  const int top = PlaceTools();
   const int foot = stsInfo_->sizeHint().height();
   const int across = vScroll1_->sizeHint().width();
   const int down = hScroll1_->sizeHint().height();
   const QSize view(std::max(0, width() - across), std::max(0, height() - top - foot - down));
-  tools_->setGeometry(0, 0, width(), top);
   picture1_->setGeometry(0, top, view.width(), view.height());
   vScroll1_->setGeometry(view.width(), top, across, view.height());
   hScroll1_->setGeometry(0, top + view.height(), view.width(), down);
@@ -263,9 +277,16 @@ void frmReport::done(int result) {
   QDialog::done(result);
 }
 
+// A touchpad tells of a notch in many small turns.
+void frmReport::TurnZoom(int angle) {
+  turned_ += angle;
+  for (; turned_ >= Notch; turned_ -= Notch) SetZoom(Zoom() * ZoomStep);
+  for (; turned_ <= -Notch; turned_ += Notch) SetZoom(Zoom() / ZoomStep);
+}
+
 void frmReport::wheelEvent(QWheelEvent* event) {
   if (event->modifiers() & Qt::ControlModifier) {
-    SetZoom(event->angleDelta().y() > 0 ? Zoom() * ZoomStep : Zoom() / ZoomStep);
+    TurnZoom(event->angleDelta().y());
   } else {
     vScroll1_->setValue(vScroll1_->value() - event->angleDelta().y());
     hScroll1_->setValue(hScroll1_->value() - event->angleDelta().x());

@@ -64,18 +64,23 @@ class frmReport : public QDialog {
   void HScroll1_Change();
 
   void BuildTools();
-  QAbstractButton* Tool(QAbstractButton* button, const QString& name, const QString& text,
-                        const QString& tip);
-  QAbstractButton* WordTool(const QString& name, const QString& text, const QString& tip);
-  QAbstractButton* SignTool(const QString& name, const QString& text, const QString& tip);
+  void BuildPaperTools();
+  void BuildZoomTools();
+  QWidget* NewRow();
+  /// A button at the end of a row; pressing it leaves the keyboard with the pages.
+  void Tool(QAbstractButton* button, const QString& name, const QString& text, const QString& tip,
+            const std::function<void()>& action);
+  int PlaceTools();
   QScrollBar* Bar(const QString& name, Qt::Orientation orientation);
   bool Scroll(int key);
+  void TurnZoom(int angle);
   void Run(const std::function<QString()>& action);
   void ShowPlace();
 
   Store& store_;
   Actions actions_;
-  QWidget* tools_;
+  QWidget* paperTools_;
+  QWidget* zoomTools_;
   QWidget* picture1_;
   PageSurface* picture2_;
   QScrollBar* vScroll1_;
@@ -83,7 +88,8 @@ class frmReport : public QDialog {
   QLabel* page_ = nullptr;
   QLabel* zoom_ = nullptr;
   MessageBar* stsInfo_;
-  QSize loaded_;  ///< the size Form_Load gave the window
+  QSize loaded_;    ///< the size Form_Load gave the window
+  int turned_ = 0;  ///< what the wheel was turned with Ctrl down, short of a notch
 };
 
 }  // namespace tavrelin

@@ -1,14 +1,14 @@
 #include "shell/Store.h"
 
-#include <optional>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
 #include <QLockFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 
+#include "basic/Error.h"
+#include "basic/WholeFile.h"
 #include "shell/StoredValues.h"
 
 namespace tavrelin {
@@ -82,14 +82,23 @@ QByteArray Written(const Sections& sections) {
   return text.toUtf8();
 }
 
-/// Nothing when the file is there and cannot be read; no sections when it is not there.
-std::optional<Sections> Load(const QString& path) {
+struct Contents {
+  enum class State { Known, CannotBeOpened, CannotBeRead };
+  State state = State::Known;
+  Sections sections;  ///< none when the file is not there
+
+  bool IsKnown() const { return state == State::Known; }
+};
+
+Contents Load(const QString& path) {
   QFile file(path);
-  if (!QFileInfo::exists(path)) return Sections{};
-  if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
+  if (!QFileInfo::exists(path)) return {};
+  if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+    return {Contents::State::CannotBeOpened, {}};
+  }
   const QByteArray bytes = file.readAll();
-  if (file.error() != QFile::NoError) return std::nullopt;
-  return Parse(QString::fromUtf8(bytes));
+  if (file.error() != QFile::NoError) return {Contents::State::CannotBeRead, {}};
+  return {Contents::State::Known, Parse(QString::fromUtf8(bytes))};
 }
 
 const Section* FindSection(const Sections& sections, const QString& name) {
@@ -113,17 +122,19 @@ void Put(Sections& sections, const QString& sectionName, const QString& name,
 }
 
 bool WriteWhole(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  file.write(bytes);
-  return file.commit();
+  try {
+    WriteWholeFile(path, bytes);
+    return true;
+  } catch (const Error&) {
+    return false;
+  }
 }
 
 QString Read(const QString& path, const QString& sectionName, const QString& name,
              const QString& fallback) {
-  const std::optional<Sections> sections = Load(path);
-  if (!sections) return {};
-  const Section* section = FindSection(*sections, sectionName);
+  const Contents contents = Load(path);
+  if (contents.state == Contents::State::CannotBeOpened) return {};
+  const Section* section = FindSection(contents.sections, sectionName);
   if (!section) return fallback;
   for (const auto& [key, value] : section->values) {
     if (!SameName(key, name)) continue;
@@ -154,10 +165,10 @@ bool Store::SaveRegistryString(const QString& section, const QString& name, cons
   if (!QDir().mkpath(QFileInfo(file_).absolutePath())) return false;
   QLockFile lock(file_ + QLatin1String(".lock"));
   if (!lock.tryLock(LockWaitMilliseconds)) return false;
-  std::optional<Sections> sections = Load(file_);
-  if (!sections) return false;
-  Put(*sections, section, name, value);
-  return WriteWhole(file_, Written(*sections));
+  Contents contents = Load(file_);
+  if (!contents.IsKnown()) return false;
+  Put(contents.sections, section, name, value);
+  return WriteWhole(file_, Written(contents.sections));
 }
 
 QString Store::GetRegistryString(const QString& section, const QString& name,
@@ -166,10 +177,10 @@ QString Store::GetRegistryString(const QString& section, const QString& name,
 }
 
 int Store::RegistryKeyState(const QString& section, const QString&) const {
-  const std::optional<Sections> sections = Load(file_);
-  if (!sections) return 2;
-  const bool exists =
-      section.isEmpty() ? QFileInfo::exists(file_) : FindSection(*sections, section) != nullptr;
+  const Contents contents = Load(file_);
+  if (!contents.IsKnown()) return 2;
+  const bool exists = section.isEmpty() ? QFileInfo::exists(file_)
+                                        : FindSection(contents.sections, section) != nullptr;
   return exists ? 0 : 1;
 }
 

@@ -19,8 +19,8 @@ class Store {
 
   /// True when the text was written. A store that is there and cannot be read is left as it is.
   bool SaveRegistryString(const QString& section, const QString& name, const QString& value);
-  /// The text, cut at 255 characters and trimmed; `fallback` when it is missing or blank, and an
-  /// empty text when the store is there and cannot be read.
+  /// The text, cut at 255 characters and trimmed; `fallback` when it is missing, blank or lost to
+  /// the disk, and an empty text when the store is there and cannot be opened.
   QString GetRegistryString(const QString& section, const QString& name,
                             const QString& fallback = {}) const;
   /// 0 the section exists, 1 it does not, 2 the store cannot be read. The name is not looked at.
@@ -29,12 +29,13 @@ class Store {
   /// nothing.
   QString GetMachineRegistryString(const QString& section, const QString& name,
                                    const QString& fallback = {}) const;
-  /// One of the values of StoredValues.h, with its default. A folder that holds "C:\Program Files"
-  /// anywhere, case counted, gives way to "C:\TavrelinData\". `section` goes before the value's
+  /// One of the values of StoredValues.h, with its default. "C:\TavrelinData\" also stands in for a
+  /// folder that holds "C:\Program Files" anywhere, case counted. `section` goes before the value's
   /// own, for values that stand in many.
   QString Get(const StoredValue& value, const QString& section = {}) const;
   /// False when it cannot be kept.
   bool Save(const StoredValue& value, const QString& text, const QString& section = {});
+
   const QString& File() const { return file_; }
 
  private:

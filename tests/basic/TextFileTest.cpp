@@ -1,51 +1,18 @@
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#include <csignal>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "basic/Error.h"
 #include "basic/TextFile.h"
+#include "support/FileLimit.h"
+#include "support/OrdinaryUser.h"
 #include "support/QtPrinters.h"
 
 namespace tavrelin {
 namespace {
-
-// The superuser may write anywhere; for the length of a scope he is nobody.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : before_(geteuid()) {
-    constexpr uid_t Nobody = 65534;
-    if (before_ == 0 && seteuid(Nobody) != 0) ADD_FAILURE() << "still the superuser";
-  }
-  ~OrdinaryUser() { EXPECT_EQ(seteuid(before_), 0); }
-
- private:
-  uid_t before_;
-};
-
-// Files cannot grow beyond `bytes`, as on a disk that is full.
-class SmallFiles {
- public:
-  explicit SmallFiles(rlim_t bytes) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    signal_ = std::signal(SIGXFSZ, SIG_IGN);
-  }
-  ~SmallFiles() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, signal_);
-  }
-
- private:
-  rlimit before_{};
-  void (*signal_)(int);
-};
 
 class TextFile : public testing::Test {
  protected:
@@ -181,7 +148,7 @@ TEST_F(TextFile, AFileForWhichThereIsNoRoomKeepsTheOldOne) {
     WriteTextFile(Path(u"a.txt"_qs), u"old"_qs);
     const QString text(2 * room, u'x');
     {
-      const SmallFiles limit(static_cast<rlim_t>(room));
+      const FileLimit limit(static_cast<rlim_t>(room));
       EXPECT_EQ(Reason([&] { WriteTextFile(Path(u"a.txt"_qs), text); }), u"File too large"_qs)
           << room;
     }

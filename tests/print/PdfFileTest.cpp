@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-#include <csignal>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "basic/Error.h"
 #include "print/OutputTarget.h"
+#include "support/FileLimit.h"
+#include "support/OrdinaryUser.h"
 #include "support/PdfPages.h"
 #include "support/QtPrinters.h"
 
@@ -59,9 +59,20 @@ TEST_F(PdfFileTest, AFileThatStandsThereIsReplacedWhole) {
 }
 
 TEST_F(PdfFileTest, AFolderThatDoesNotExistIsASentence) {
-  const QString reason = Refusal(folder.filePath("nowhere/results.pdf"));
-  EXPECT_TRUE(reason.contains("results.pdf could not be written: No such file or directory"))
-      << reason.toStdString();
+  EXPECT_EQ(Refusal(folder.filePath("nowhere/results.pdf")),
+            "Unable to open file. No such file or directory");
+}
+
+TEST_F(PdfFileTest, AFolderThatCannotBeWrittenToIsASentence) {
+  QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+  QString reason;
+  {
+    const OrdinaryUser nobody;
+    reason = Refusal(path);
+  }
+  QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  EXPECT_EQ(reason, "Unable to open file. Permission denied");
+  EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(PdfFileTest, AFolderInPlaceOfTheFileIsASentence) {
@@ -75,17 +86,12 @@ TEST_F(PdfFileTest, AFullDiskIsASentenceAndLeavesTheOldFileAndNoHalfFile) {
   old.write("before");
   old.close();
 
-  struct rlimit before {};
-  getrlimit(RLIMIT_FSIZE, &before);
-  struct rlimit small = before;
-  small.rlim_cur = 100;
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &small);
-  const QString reason = Refusal(path);
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
-
-  EXPECT_TRUE(reason.contains("could not be written")) << reason.toStdString();
+  QString reason;
+  {
+    const FileLimit limit(100);
+    reason = Refusal(path);
+  }
+  EXPECT_EQ(reason, "Unable to open file. File too large");
   ASSERT_TRUE(old.open(QIODevice::ReadOnly));
   EXPECT_EQ(old.readAll(), "before");
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("results.pdf"));

@@ -30,7 +30,7 @@ struct SystemPrinterTest : testing::Test {
 
 TEST_F(SystemPrinterTest, WithoutAPrinterTheOperatorIsAskedForAFile) {
   bench.person.WillChoose(bench.PathOf("sheet.pdf"));
-  EXPECT_TRUE(printer.Print("Spring/Open: A", HelloSheet, 3));
+  EXPECT_EQ(printer.Print("Spring/Open: A", HelloSheet, 3), Printed::InFile);
   ASSERT_EQ(bench.person.dialogs.size(), 1);
   EXPECT_EQ(bench.person.dialogs[0],
             "No printer is set up: save as PDF|Spring Open A.pdf|PDF files (*.pdf)");
@@ -39,7 +39,7 @@ TEST_F(SystemPrinterTest, WithoutAPrinterTheOperatorIsAskedForAFile) {
 
 TEST_F(SystemPrinterTest, CancelPrintsNothing) {
   bench.person.WillChoose({});
-  EXPECT_FALSE(printer.Print("Sheet", HelloSheet));
+  EXPECT_EQ(printer.Print("Sheet", HelloSheet), Printed::Nowhere);
 }
 
 TEST_F(SystemPrinterTest, AFileThatCannotBeWrittenIsAnError) {
@@ -49,7 +49,7 @@ TEST_F(SystemPrinterTest, AFileThatCannotBeWrittenIsAnError) {
 
 TEST_F(SystemPrinterTest, AFileWithoutAnEndingGetsOne) {
   bench.person.WillChoose(bench.PathOf("sheet"));
-  EXPECT_TRUE(printer.Print("Sheet", HelloSheet));
+  EXPECT_EQ(printer.Print("Sheet", HelloSheet), Printed::InFile);
   EXPECT_EQ(PdfPages(bench.PathOf("sheet.pdf")).PageCount(), 1);
 }
 

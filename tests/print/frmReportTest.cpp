@@ -9,8 +9,8 @@
 #include <QWheelEvent>
 
 #include "basic/Error.h"
+#include "print/CRotate.h"
 #include "print/PageSurface.h"
-#include "print/PdfFile.h"
 #include "support/PdfPages.h"
 #include "support/ScreenBench.h"
 
@@ -44,6 +44,11 @@ struct frmReportTest : testing::Test {
   PageSurface& Picture2() { return bench.Find<PageSurface>("Picture2"); }
   QScrollBar& VScroll1() { return bench.Find<QScrollBar>("VScroll1"); }
   QString Place() { return bench.Find<QLabel>("lblPage").text(); }
+  void Turn(int angle, Qt::KeyboardModifiers modifiers) {
+    QWheelEvent wheel({100, 100}, report.mapToGlobal(QPointF(100, 100)), {}, {0, angle},
+                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&report, &wheel);
+  }
   void Close() {
     report.reject();
     bench.ProcessEvents();
@@ -64,14 +69,28 @@ TEST_F(frmReportTest, APreviewOfTwoPortraitPagesIs2000HighAndTheBarReachesItsEnd
 
 TEST_F(frmReportTest, AfterUnloadWithAWindowSizeOf5000By6000TheNextOneOpensAtThatSize) {
   bench.store().SaveRegistryString("frmReport", "Height", "5000");
-  bench.store().SaveRegistryString("frmReport", "Width", "9000");
+  bench.store().SaveRegistryString("frmReport", "Width", "6000");
   Open(Pages(1));
-  const QSize size = report.size();
-  EXPECT_EQ(size, QSize(600, 333));
+  EXPECT_EQ(report.size(), QSize(400, 333));
   Close();
   EXPECT_EQ(Stored("Height"), "5000");
+  EXPECT_EQ(Stored("Width"), "6000");
   report.show();
-  EXPECT_EQ(report.size(), size);
+  EXPECT_EQ(report.size(), QSize(400, 333));
+  Close();
+  bench.store().SaveRegistryString("frmReport", "Height", "6000");
+  bench.store().SaveRegistryString("frmReport", "Width", "5000");
+  report.show();
+  EXPECT_EQ(report.size(), QSize(333, 400));
+  EXPECT_EQ(CutTexts(report), QStringList());
+}
+
+TEST_F(frmReportTest, AStoreWithoutSensibleSizesOpensItAllTheSame) {
+  bench.store().SaveRegistryString("frmReport", "Height", "tall");
+  bench.store().SaveRegistryString("frmReport", "Width", "999999999");
+  Open(Pages(1));
+  EXPECT_GT(report.height(), 200);
+  EXPECT_LE(report.width(), report.screen()->availableSize().width());
 }
 
 TEST_F(frmReportTest, TheSizeTheOperatorGaveIsKeptInTwips) {
@@ -124,9 +143,7 @@ TEST_F(frmReportTest, ZoomKeepsThePageInViewAndTheDocumentItsSize) {
   Open(Pages(3));
   report.GoToPage(3);
   const int top = VScroll1().value();
-  QWheelEvent wheel({100, 100}, report.mapToGlobal(QPointF(100, 100)), {}, {0, 120}, Qt::NoButton,
-                    Qt::ControlModifier, Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&report, &wheel);
+  Turn(120, Qt::ControlModifier);
   EXPECT_EQ(Picture2().size(), QSize(1000, 3750));
   EXPECT_NEAR(VScroll1().value(), top * 1.25, 1);
   bench.Press(Qt::Key_Minus);
@@ -136,6 +153,37 @@ TEST_F(frmReportTest, ZoomKeepsThePageInViewAndTheDocumentItsSize) {
   EXPECT_EQ(bench.Find<QScrollBar>("HScroll1").maximum(), 0);
   report.SetZoom(100);
   EXPECT_EQ(report.Zoom(), 4);
+}
+
+TEST_F(frmReportTest, ATouchpadZoomsANotchForAllTheSmallTurnsOfOne) {
+  Open(Pages(1));
+  for (int turn = 0; turn < 8; ++turn) Turn(15, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(report.Zoom(), 1.25);
+  Turn(-119, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(report.Zoom(), 1.25);
+  Turn(-1, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(report.Zoom(), 1);
+}
+
+TEST_F(frmReportTest, TheWheelAloneScrolls) {
+  Open(Pages(2));
+  Turn(-120, Qt::NoModifier);
+  EXPECT_EQ(VScroll1().value(), 120);
+  EXPECT_EQ(report.Zoom(), 1);
+}
+
+TEST_F(frmReportTest, TheLastOfSixtyPagesIsThereAtTheLargestZoom) {
+  Open(Pages(60));
+  report.SetZoom(4);
+  report.GoToPage(60);
+  const QImage seen = bench.Find("Picture1").grab().toImage();
+  int dark = 0;
+  // Line 0 of a page begins 200 twips from the left and 350 from the top; a pixel is 3.75 twips.
+  for (int y = 93; y < 152; ++y) {
+    for (int x = 53; x < 400; ++x) dark += qGray(seen.pixel(x, y)) < 128;
+  }
+  EXPECT_GT(dark, 500);
+  EXPECT_EQ(Place(), "Page 60 of 60");
 }
 
 TEST_F(frmReportTest, TheKeyboardScrolls) {
@@ -148,6 +196,16 @@ TEST_F(frmReportTest, TheKeyboardScrolls) {
   EXPECT_EQ(VScroll1().value(), 0);
   bench.Press(Qt::Key_Right);
   EXPECT_EQ(Picture2().x(), -40);
+}
+
+TEST_F(frmReportTest, AfterAPressedButtonTheKeyboardStillScrolls) {
+  Open(Pages(2), {[] { return QStringLiteral("Document has been sent to printer"); }, {}});
+  for (const char* button : {"cmdPrint", "cmdFitWidth", "cmdZoomOut", "cmdZoomIn"}) {
+    bench.Click(button);
+    bench.Press(Qt::Key_Home);
+    bench.Press(Qt::Key_Down);
+    EXPECT_EQ(VScroll1().value(), 40) << button;
+  }
 }
 
 TEST_F(frmReportTest, PrintAndSaveSayWhatCameOfIt) {
@@ -165,24 +223,65 @@ TEST_F(frmReportTest, PrintAndSaveSayWhatCameOfIt) {
   EXPECT_TRUE(bench.Refused());
 }
 
-// The preview at 150 percent and the PDF at 144 dots an inch are both one pixel to ten twips: the
-// same letters stand in the same places.
-TEST_F(frmReportTest, ThePreviewShowsWhatThePdfHolds) {
-  const Document document = Pages(2);
-  Open(document);
+/// Typefaces, weights, sizes, turned text and rules on two pages.
+void ManyTexts(OutputTarget& target) {
+  int y = 400;
+  for (const char* face : {"Arial", "Tahoma"}) {
+    for (const double size : {8.25, 10.0, 12.0, 24.0}) {
+      for (const int weight : {400, 700}) {
+        target.Font() = {.name = face, .size = size, .weight = weight};
+        target.MoveTo(200 + weight, y);
+        target.PrintOn("Ringers and shoes");
+        target.Font().italic = target.Font().name == "Arial";  // Tahoma has no italics
+        target.PrintAt(7000, "Featherstonehaugh");
+        y += target.LineHeight() + 40;
+      }
+    }
+  }
+  target.Font() = {.size = 24};
+  CRotate rotate;
+  rotate.SetDevice(target);
+  rotate.SetAngle(180);
+  target.MoveTo(9000, 14000);
+  rotate.PrintText("Walter");
+  target.NewPage();
+  target.Font() = {.size = 36};
+  target.PrintAt(3000, "Second");
+  target.MoveTo(500, 14000);
+  target.PrintOn("Foot");
+}
+
+/// The ink within a word's place, in pixels of 10 twips; `top` is where its page begins.
+QRect InkOf(const PdfWord& word, const QImage& picture, int top) {
+  QRect ink;
+  const QRect place(QPoint(int(word.x / 10) - 1, top + int(word.y / 10)),
+                    QPoint(int(word.right / 10) + 1, top + int(word.bottom / 10)));
+  for (int y = place.top(); y <= place.bottom(); ++y) {
+    for (int x = place.left(); x <= place.right(); ++x) {
+      if (qGray(picture.pixel(x, y)) < 150) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return ink.translated(0, -top);
+}
+
+// The preview at 150 percent and the PDF at 144 dots an inch are both one pixel to ten twips.
+TEST_F(frmReportTest, ThePreviewShowsEveryTextWhereThePdfHasIt) {
+  Open(Record(OutputTarget::Kind::Preview, "Texts", ManyTexts));
   report.SetZoom(1.5);
   QImage seen(Picture2().size(), QImage::Format_RGB32);
   Picture2().render(&seen);
-  const PdfPages pdf(document);
+  const PdfPages pdf(Record(OutputTarget::Kind::Printer, "Texts", ManyTexts));
+  const QImage pages[] = {pdf.Picture(1), pdf.Picture(2)};
+  EXPECT_EQ(pdf.Words().size(), 16 * 4 + 3);
   for (const PdfWord& word : pdf.Words()) {
-    const int top = (word.page - 1) * 1500;
-    const QRect place(int(word.x / 10), top + int(word.y / 10), int((word.right - word.x) / 10),
-                      int((word.bottom - word.y) / 10));
-    int dark = 0;
-    for (int y = place.top(); y <= place.bottom(); ++y) {
-      for (int x = place.left(); x <= place.right(); ++x) dark += qGray(seen.pixel(x, y)) < 160;
-    }
-    EXPECT_GT(dark, 2) << word.text.toStdString();
+    SCOPED_TRACE(word.text.toStdString());
+    const QRect file = InkOf(word, pages[word.page - 1], 0);
+    const QRect preview = InkOf(word, seen, (word.page - 1) * 1500);
+    ASSERT_FALSE(file.isEmpty());
+    EXPECT_NEAR(preview.left(), file.left(), 1);
+    EXPECT_NEAR(preview.right(), file.right(), 1);
+    EXPECT_NEAR(preview.top(), file.top(), 1);
+    EXPECT_NEAR(preview.bottom(), file.bottom(), 1);
   }
 }
 
@@ -190,6 +289,10 @@ TEST_F(frmReportTest, NothingIsCutInTheWindow) {
   Open(Pages(2));
   EXPECT_EQ(CutTexts(report), QStringList());
   bench.Shot("frmReport");
+  report.resize(400, 333);
+  bench.ProcessEvents();
+  EXPECT_EQ(CutTexts(report), QStringList());
+  bench.Shot("frmReport-small");
   report.resize(1000, 640);
   report.SetZoom(2);
   bench.ProcessEvents();

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "shell/StoredValues.h"
+#include "support/FileLimit.h"
 #include "support/QtPrinters.h"
 
 namespace tavrelin {
@@ -124,12 +125,36 @@ TEST_F(StoreTest, TheMachineStoreIsReadWhereTheEnvironmentNamesItAndNowhereElse)
   EXPECT_EQ(store.GetMachineRegistryString("", "GameBasis", "none"), "none");
 }
 
-TEST_F(StoreTest, APathUnderProgramFilesReadsAsTheDataFolder) {
+TEST_F(StoreTest, AStoredTournamentPathUnderProgramFilesReadsAsTheDataFolder) {
   EXPECT_EQ(store.Get(stored::TournamentPath), "C:\\TavrelinData\\");
-  store.SaveRegistryString("", "TournamentPath", "D:\\x\\C:\\Program Files\\Old\\");
+  store.Save(stored::TournamentPath, "C:\\Program Files\\Old\\");
   EXPECT_EQ(store.Get(stored::TournamentPath), "C:\\TavrelinData\\");
-  store.SaveRegistryString("", "TournamentPath", "c:\\program files\\Old\\");
+  store.Save(stored::TournamentPath, "D:\\x\\C:\\Program Files\\Old\\");
+  EXPECT_EQ(store.Get(stored::TournamentPath), "C:\\TavrelinData\\");
+  store.Save(stored::TournamentPath, "c:\\program files\\Old\\");
   EXPECT_EQ(store.Get(stored::TournamentPath), "c:\\program files\\Old\\");
+}
+
+TEST_F(StoreTest, AStoreThatTheDiskDoesNotGiveBackReadsAsTheDefaultAndIsLeftAlone) {
+  Store lost("/proc/self/mem");  // opens, and fails at the first read
+  EXPECT_EQ(lost.Get(stored::ScoreCheck), "0");
+  EXPECT_EQ(lost.Get(stored::LeaguesPath), "C:\\TavrelinData\\");
+  EXPECT_EQ(lost.RegistryKeyState(""), 2);
+  EXPECT_FALSE(lost.Save(stored::ScoreCheck, "1"));
+}
+
+// A limit on the size of files stands in for a full disk: the write ends half way.
+TEST_F(StoreTest, AFullDiskRefusesTheSaveAndAllSettingsStay) {
+  for (const char* name : {"ReturnAddress", "NatStatEmail", "LeaguesPath", "ScoreCheck"}) {
+    store.SaveRegistryString("", name, QString(200, u'x'));
+  }
+  const FileLimit limit(300);
+  EXPECT_FALSE(store.Save(stored::ScoreCheck, "1"));
+  for (const char* name : {"ReturnAddress", "NatStatEmail", "LeaguesPath", "ScoreCheck"}) {
+    EXPECT_EQ(store.GetRegistryString("", name), QString(200, u'x')) << name;
+  }
+  EXPECT_EQ(QDir(folder.filePath("config")).entryList(QDir::Files | QDir::Hidden),
+            QStringList("store.ini"));
 }
 
 struct Default {

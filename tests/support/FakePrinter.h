@@ -19,14 +19,16 @@ class FakePrinter : public Printer {
 
   QList<Job> printed;
   QList<Job> previewed;
-  bool accepted = true;  ///< what Print answers: false as when the operator would not save
-  QString failure;       ///< the sentence Print throws; empty: it works
+  bool accepted = true;   ///< false as when there is no printer and the operator would not save
+  bool installed = true;  ///< false as when there is none and the operator saves
+  QString failure;        ///< the sentence Print throws; empty: it works
 
-  bool Print(const QString& title, const Report& report, int copies = 1) override {
+  Printed Print(const QString& title, const Report& report, int copies = 1) override {
     Job job{title, Record(OutputTarget::Kind::Printer, title, report), copies};
     if (!failure.isEmpty()) throw Error(errors::Printer, failure);
-    if (accepted) printed.append(job);
-    return accepted;
+    if (!accepted) return Printed::Nowhere;
+    printed.append(job);
+    return installed ? Printed::OnPaper : Printed::InFile;
   }
 
   void Preview(const QString& title, const Report& report) override {
