@@ -1,5 +1,7 @@
 #include "controls/GridColumn.h"
 
+#include "basic/Picture.h"
+
 namespace tavrelin {
 
 namespace {
@@ -35,6 +37,15 @@ int ValueList::IndexOfText(const QString& text) const {
     if (Lookup(items_[i].text) == wanted) return i;
   }
   return -1;
+}
+
+QString WidestText(const GridColumn& column) {
+  const QString& picture = column.picture;
+  if (picture.isEmpty()) return {};
+  const bool date = column.editor == CellEditor::Date || column.editor == CellEditor::DateTime;
+  if (date) return Format(QDateTime(QDate(2000, 12, 30), QTime(12, 58)), picture);
+  QString widest = picture;
+  return widest.replace(u'#', u'0').replace(u'@', u'M');
 }
 
 }  // namespace tavrelin

@@ -89,6 +89,10 @@ struct GridColumn {
   const QString& Key() const { return key.isEmpty() ? field : key; }
 };
 
+/// The widest of what a column's picture writes, digits taken as zeros and letters as Ms: a figure
+/// cut off with an ellipsis tells nothing. Empty without a picture.
+QString WidestText(const GridColumn& column);
+
 /// An icon of a grid, with the word that stands for it where it can't be seen ("Win").
 struct GridIcon {
   QIcon icon;

@@ -34,6 +34,8 @@ class GridDelegate : public QStyledItemDelegate {
   /// Of what an empty grid says: quieter than its rows, and read as well while the grid is switched
   /// off, when it tells how to switch it on.
   static QColor HintColor(const QPalette& palette);
+  /// Pixels that a cell needs to show a text whole.
+  static int RoomFor(const QWidget& widget, const QString& text);
 
   /// The head of a card: the row's mark and number, or a heading's text.
   void PaintCardHead(QPainter* painter, const QStyleOptionViewItem& option, int line) const;

@@ -148,6 +148,11 @@ int GridDelegate::RowHeight(const QWidget& widget) {
   return qMax(32 * widget.logicalDpiY() / 96, widget.fontMetrics().height() + 14);
 }
 
+int GridDelegate::RoomFor(const QWidget& widget, const QString& text) {
+  return widget.fontMetrics().horizontalAdvance(text) + 2 * Margin +
+         1;  // and the line at its right
+}
+
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
   const int line = index.row(), number = index.column();

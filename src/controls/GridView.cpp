@@ -47,6 +47,14 @@ int GridView::Pixels(int twips) const {
   return static_cast<int>(std::ceil(twips / 15.0 * digit / 6.0));
 }
 
+// Neither its caption nor what its picture writes is ever cut.
+int GridView::WidthOf(int number) const {
+  const GridColumn& column = core_.model.Column(number);
+  const QString widest = WidestText(column);
+  const int picture = widest.isEmpty() ? 0 : GridDelegate::RoomFor(*this, widest);
+  return qMax(picture, qMax(Pixels(column.width), header_->CaptionWidth(number)));
+}
+
 void GridView::LayOutColumns() {
   verticalHeader()->setDefaultSectionSize(GridDelegate::RowHeight(*this));
   verticalHeader()->setMinimumSectionSize(GridDelegate::RowHeight(*this));
@@ -59,8 +67,7 @@ void GridView::LayOutColumns() {
   }
   for (int i = 0; i < shown.size(); ++i) {
     header_->moveSection(header_->visualIndex(shown[i]), i + 1);
-    const int width = Pixels(core_.model.Column(shown[i]).width);
-    header_->resizeSection(shown[i], qMax(width, header_->CaptionWidth(shown[i])));
+    header_->resizeSection(shown[i], WidthOf(shown[i]));
   }
   header_->ShowSortKey();
   FillWidth();
@@ -78,8 +85,7 @@ void GridView::FillWidth() {
   }
   const int share = (viewport()->width() - taken) / static_cast<int>(fillers.size());
   for (int number : fillers) {
-    const int least = qMax(Pixels(core_.model.Column(number).width), header_->CaptionWidth(number));
-    header_->resizeSection(number, qMax(share, least));
+    header_->resizeSection(number, qMax(share, WidthOf(number)));
   }
 }
 

@@ -36,6 +36,7 @@ class GridView : public QTableView {
 
  private:
   int Pixels(int twips) const;
+  int WidthOf(int number) const;
   void FillWidth();
 
   GridCore& core_;

@@ -144,6 +144,35 @@ TEST_F(GridModelTest, CaptionsAreNeverCutAtTheirOwnWidth) {
   EXPECT_GE(table.font().pointSizeF(), 10.5);
 }
 
+TEST_F(GridModelTest, WhatAPictureWritesIsNotCutInAnyFont) {
+  const struct {
+    const char* picture;
+    CellEditor editor;
+    const char* written;
+  } cases[] = {{"(000)000-0000", CellEditor::Text, "(651)888-0808"},
+               {"@@-@@-@@@", CellEditor::Text, "MN-25-A01"},
+               {"mm/dd/yyyy", CellEditor::Date, "12/28/1948"},
+               {"mm/dd/yyyy h:mm AMPM", CellEditor::DateTime, "12/28/2048 10:48 PM"},
+               {"##0.00", CellEditor::Number, "100.00"}};
+  QList<GridColumn> columns = {{.caption = "A", .field = "PlayerID", .width = 300}};
+  for (const auto& c : cases) {
+    columns.append({.caption = "B",
+                    .field = "CardNumber",
+                    .width = 300,
+                    .editor = c.editor,
+                    .picture = c.picture});
+  }
+  grid.SetColumns(columns);
+  for (const char* family : {"DejaVu Sans", "Liberation Sans", "DejaVu Sans Mono"}) {
+    table.setFont(QFont(family, 14));
+    for (int i = 0; i < 5; ++i) {
+      const int text = table.fontMetrics().horizontalAdvance(cases[i].written);
+      EXPECT_GT(table.columnWidth(i + 2), text + 16) << family << ' ' << cases[i].picture;
+      EXPECT_LT(table.columnWidth(i + 2), text * 3 / 2 + 50) << family << ' ' << cases[i].picture;
+    }
+  }
+}
+
 TEST_F(GridModelTest, TheCounterTellsTheRecord) {
   auto* counter = bench.window.findChild<QLabel*>("RecordCounter");
   EXPECT_EQ(counter->text(), "Record 1 of 5 records");
