@@ -1,8 +1,6 @@
 #include "players/uctScores.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include "basic/Picture.h"
 #include "basic/RowCheck.h"
@@ -18,6 +16,7 @@
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
+#include "shell/SideBySide.h"
 
 namespace tavrelin {
 
@@ -145,23 +144,10 @@ void uctScores::ConnectEvents() {
 }
 
 void uctScores::LayOut() {
-  auto* grids = new QHBoxLayout;
-  grids->setSpacing(16);
-  const auto add = [grids](QLabel* heading, GridEX* grid, int stretch) {
-    auto* half = new QVBoxLayout;
-    half->setSpacing(8);
-    half->addWidget(heading);
-    half->addWidget(grid, 1);
-    grids->addLayout(half, stretch);
-  };
-  add(NewHeading("Label1", "Players", GridEX1_, this), GridEX1_, 3);
-  add(Label2_, GridEX2_, 9);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(16, 8, 16, 0);
-  column->setSpacing(8);
-  column->addWidget(NewTitle("lblTitle", Title(), this));
-  column->addLayout(grids, 1);
-  column->addWidget(stsInfo());
+  LayOutSideBySide(
+      this, NewTitle("lblTitle", Title(), this),
+      {{NewHeading("Label1", "Players", GridEX1_, this), GridEX1_, 3}, {Label2_, GridEX2_, 9}},
+      stsInfo());
 }
 
 void uctScores::UserControl_Show() {

@@ -1,8 +1,6 @@
 #include "players/uctTeam.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
@@ -14,6 +12,7 @@
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
+#include "shell/SideBySide.h"
 
 namespace tavrelin {
 
@@ -112,26 +111,13 @@ void uctTeam::BuildMembers() {
 }
 
 void uctTeam::LayOut() {
-  auto* grids = new QHBoxLayout;
-  grids->setSpacing(16);
-  const auto add = [grids](QLabel* heading, GridEX* grid, int stretch) {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(8);
-    column->addWidget(heading);
-    column->addWidget(grid, 1);
-    grids->addLayout(column, stretch);
-  };
-  add(NewHeading("Label2", "Teams", GridEX1_, this), GridEX1_, 3);
-  add(NewHeading("Label1", "Player List", GridEX2_, this), GridEX2_, 4);
-  add(Label3_, GridEX3_, 3);
+  LayOutSideBySide(this, NewTitle("lblTitle", Title(), this),
+                   {{NewHeading("Label2", "Teams", GridEX1_, this), GridEX1_, 3},
+                    {NewHeading("Label1", "Player List", GridEX2_, this), GridEX2_, 4},
+                    {Label3_, GridEX3_, 3}},
+                   stsInfo());
   // A long name of a team must not push the grids about.
   Label3_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(16, 8, 16, 0);
-  column->setSpacing(8);
-  column->addWidget(NewTitle("lblTitle", Title(), this));
-  column->addLayout(grids, 1);
-  column->addWidget(stsInfo());
 }
 
 void uctTeam::UserControl_Show() {

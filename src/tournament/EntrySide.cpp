@@ -2,13 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include "basic/Conversions.h"
 #include "controls/GridEX.h"
 #include "controls/TypedSearch.h"
 #include "data/Connection.h"
 #include "shell/Labels.h"
+#include "shell/SideBySide.h"
 #include "tournament/Entries.h"
 
 namespace tavrelin {
@@ -57,19 +57,11 @@ void EntrySide::BuildEntries() {
 }
 
 void EntrySide::LayOut() {
-  auto* halves = new QHBoxLayout(this);
+  QHBoxLayout* halves = SideBySide(
+      {{NewHeading(kind_.listLabel, kind_.listCaption, list_, this), list_, 34},
+       {NewHeading(kind_.entriesLabel, kind_.entriesCaption, entries_, this), entries_, 66}});
   halves->setContentsMargins(8, 8, 8, 8);
-  halves->setSpacing(16);
-  const auto addHalf = [&](const QString& label, const QString& caption, GridEX* grid,
-                           int stretch) {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(8);
-    column->addWidget(NewHeading(label, caption, grid, this));
-    column->addWidget(grid, 1);
-    halves->addLayout(column, stretch);
-  };
-  addHalf(kind_.listLabel, kind_.listCaption, list_, 34);
-  addHalf(kind_.entriesLabel, kind_.entriesCaption, entries_, 66);
+  setLayout(halves);
 }
 
 void EntrySide::ShowList(Connection& connection) {

@@ -3,15 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/GridEX.h"
-#include "data/Connection.h"
-#include "data/Recordset.h"
 #include "players/uctProfile.h"
 #include "players/uctScores.h"
 #include "players/uctTeam.h"
+#include "screens/ClubScreenTest.h"
 #include "screens/GridClicks.h"
 #include "support/RecordsetPrinters.h"
-#include "support/ScreenBench.h"
 #include "tournament/uctEntrants.h"
 
 namespace tavrelin {
@@ -19,12 +16,8 @@ namespace {
 
 /// Karen Olson is on a team, entered alone and with the team, and has a history; then she is
 /// deleted from the roster as a person does it.
-struct DeletedPlayerTest : testing::Test {
-  ScreenBench bench;
-  Connection file;
-
+struct DeletedPlayerTest : ClubScreenTest {
   void SetUp() override {
-    file.Open(ConnectString);
     for (const char* statement :
          {"INSERT INTO Players (PlayerID, LastName, FirstName, Category, State, Average) "
           "VALUES ('OLSKAR', 'Olson', 'Karen', 'AW', 'MN', 45.5)",
@@ -61,11 +54,6 @@ struct DeletedPlayerTest : testing::Test {
     bench.Focus(grid);
     Grid(grid).SetRow(row);
     bench.Press(Qt::Key_Return);
-  }
-  Value Cell(const QString& query) {
-    Recordset rows;
-    rows.Open(query, file);
-    return rows.AtEnd() ? Value("no such row") : rows.At(0);
   }
 };
 

@@ -1,85 +1,15 @@
-#include "players/uctProfile.h"
-
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
-#include "controls/GridEX.h"
-#include "data/Connection.h"
-#include "data/Recordset.h"
-#include "support/ScreenBench.h"
+#include "screens/ProfileScreenTest.h"
 
 namespace tavrelin {
 namespace {
 
-using Cells = QList<QPair<QString, QString>>;
-
-struct uctProfileTest : testing::Test {
-  ScreenBench bench;
-  Connection file;
-
-  void SetUp() override { file.Open(ConnectString); }
-
-  void Add(const QString& playerID, const QString& last, const QString& first,
-           const QString& card = {}, const Value& years = 0) {
-    file.Execute(
-        "INSERT INTO Players (PlayerID, LastName, FirstName, CardNumber, Longevity, Category, "
-        "State, MembershipType) VALUES (?, ?, ?, ?, ?, 'AM', 'MN', 'S')",
-        {playerID, last, first, card, years});
-  }
-  void Set(const QString& playerID, const QString& field, const Value& value) {
-    file.Execute("UPDATE Players SET " + field + " = ? WHERE PlayerID = ?", {value, playerID});
-  }
-
-  void Show() { bench.Show<uctProfile>(); }
-  GridEX& Grid() { return bench.Find<GridEX>("grdProfile"); }
-
-  Value Stored(const QString& field, const QString& playerID) {
-    Recordset rows;
-    rows.Open("SELECT " + field + " FROM Players WHERE PlayerID = ?", file,
-              Recordset::Lock::ReadOnly, {playerID});
-    return rows.AtEnd() ? Value("no such player") : rows.At(0);
-  }
-  qint64 Count() {
-    Recordset rows;
-    rows.Open("SELECT COUNT(*) FROM Players", file);
-    return rows.At(0).ToWhole();
-  }
-
-  // Types into cells of the row the cursor stands on.
-  void Fill(const Cells& cells) {
-    for (const auto& [column, text] : cells) {
-      Grid().SetCol(column);
-      if (Grid().Columns()[Grid().ColumnNumber(column) - 1].editor == CellEditor::List) {
-        Grid().SetValue(column, text);
-      } else {
-        bench.Type(text);
-      }
-    }
-  }
-  // A new player with all a row needs, and the cells given besides; Enter takes the row over.
-  void TypeNew(const QString& first, const QString& last, const Cells& more = {}) {
-    bench.Press(Qt::Key_Insert);
-    Fill({{"FirstName", first}, {"LastName", last}, {"Category", "AW"}, {"State", "MN"}});
-    Fill(more);
-    bench.Press(Qt::Key_Return);
-  }
-  void GoTo(const QString& playerID) {
-    for (int row = 1; row <= Grid().RowCount(); ++row) {
-      if (Grid().ValueAt(row, "PlayerID").ToText() == playerID) Grid().SetRow(row);
-    }
-    ASSERT_EQ(Grid().Value("PlayerID").ToText(), playerID);
-  }
-  QString CurrentPlayer() { return Grid().Value("PlayerID").ToText(); }
-  void OnRowSelector(const QString& playerID) {
-    GoTo(playerID);
-    Grid().ClearCol();
-  }
-};
+struct uctProfileTest : ProfileScreenTest {};
 
 TEST_F(uctProfileTest, OpensOnTheNewRowReadyForAFirstName) {
   Add("SMIJOH", "Smith", "John");
@@ -478,83 +408,6 @@ TEST_F(uctProfileTest, InsertGoesToTheNewRowAndLeftToTheRowSelector) {
   EXPECT_EQ(Grid().Col(), -1);
   bench.Press(Qt::Key_Return);
   EXPECT_EQ(Grid().ColumnKey(Grid().Col()), "FirstName");
-}
-
-TEST_F(uctProfileTest, TypingSMOnTheRowSelectorJumpsToTheFirstSmith) {
-  Add("SANABE", "Sandberg", "Abe");
-  Add("SMIJOH", "Smith", "John");
-  Add("SMIKAY", "Smith", "Kay");
-  Add("AASALX", "Aas", "Al");
-  Show();
-  OnRowSelector("AASALX");
-  bench.Type("s");
-  EXPECT_EQ(CurrentPlayer(), "SANABE");
-  bench.Type("m");
-  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
-  EXPECT_EQ(Grid().Col(), -1);
-}
-
-TEST_F(uctProfileTest, APauseRestartsTheSearchFromTheNewKey) {
-  Add("SMIJOH", "Smith", "John");
-  Add("MOEKAY", "Moe", "Kay");
-  Show();
-  OnRowSelector("MOEKAY");
-  bench.Type("s");
-  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
-  QTest::qWait(1700);
-  bench.Type("m");
-  EXPECT_EQ(CurrentPlayer(), "MOEKAY");
-}
-
-TEST_F(uctProfileTest, ANameThatNobodyHasGoesToTheNextAndBehindTheLastNothingMoves) {
-  Add("AASALX", "Aas", "Al");
-  Add("SMIJOH", "Smith", "John");
-  Show();
-  OnRowSelector("AASALX");
-  bench.Type("k");
-  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
-  QTest::qWait(1700);
-  bench.Type("z");
-  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
-}
-
-TEST_F(uctProfileTest, TypedSearchByYearsGoesToTheFirstRowWithAtLeastThatNumber) {
-  Add("AASALX", "Aas", "Al", {}, 30);
-  Add("BERPIA", "Berg", "Pia", {}, 4);
-  Add("SMIJOH", "Smith", "John", {}, 12);
-  Show();
-  Grid().on.ColumnHeaderClick("Longevity");
-  OnRowSelector("BERPIA");
-  bench.Type("5");
-  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
-  bench.Type("x");
-  EXPECT_EQ(CurrentPlayer(), "SMIJOH");
-}
-
-TEST_F(uctProfileTest, InsideACellAKeyGoesToTheCell) {
-  Add("AASALX", "Aas", "Al");
-  Add("SMIJOH", "Smith", "John");
-  Show();
-  GoTo("AASALX");
-  Grid().SetCol("City");
-  bench.Type("s");
-  EXPECT_EQ(CurrentPlayer(), "AASALX");
-  bench.Press(Qt::Key_Return);
-  EXPECT_EQ(Stored("City", "AASALX"), Value("s"));
-}
-
-TEST_F(uctProfileTest, AHeaderClickSortsUpAndTheNextOneDown) {
-  Add("AASALX", "Aas", "Zoe", "20");
-  Add("SMIJOH", "Smith", "Abe", "100");
-  Show();
-  Grid().on.ColumnHeaderClick("LastName");
-  EXPECT_EQ(Grid().TextAt(1, "LastName"), "Smith") << "the roster opens in ascending order";
-  Grid().on.ColumnHeaderClick("FirstName");
-  EXPECT_EQ(Grid().TextAt(1, "FirstName"), "Abe");
-  Grid().on.ColumnHeaderClick("FirstName");
-  EXPECT_EQ(Grid().TextAt(1, "FirstName"), "Zoe");
-  Grid().on.ColumnHeaderClick("CardNumber");
-  EXPECT_EQ(Grid().TextAt(1, "CardNumber"), "20") << "cards sort as numbers";
 }
 
 TEST_F(uctProfileTest, TheViewButtonChangesBetweenTableAndCards) {

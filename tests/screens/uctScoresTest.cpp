@@ -7,24 +7,15 @@
 #include <QTest>
 #include <QTimer>
 
-#include "controls/GridEX.h"
-#include "data/Connection.h"
-#include "data/Recordset.h"
+#include "screens/ClubScreenTest.h"
 #include "screens/GridClicks.h"
 #include "support/RecordsetPrinters.h"
-#include "support/ScreenBench.h"
 
 namespace tavrelin {
 namespace {
 
-using Cells = QList<QPair<QString, QString>>;
-
-struct uctScoresTest : testing::Test {
-  ScreenBench bench;
-  Connection file;
-
+struct uctScoresTest : ClubScreenTest {
   void SetUp() override {
-    file.Open(ConnectString);
     AddPlayer("OLSKAR", "Olson", "Karen", "AW");
     AddPlayer("SMIJOH", "Smith", "John", "AM");
     AddTournament("MN25A01", "5/1/2025");
@@ -52,10 +43,7 @@ struct uctScoresTest : testing::Test {
   GridEX& Scores() { return bench.Find<GridEX>("GridEX2"); }
   void Choose(const QString& playerID) {
     bench.Focus("GridEX1");
-    for (int row = 1; row <= Players().RowCount(); ++row) {
-      if (Players().ValueAt(row, "PlayerID").ToText() == playerID) Players().SetRow(row);
-    }
-    ASSERT_EQ(Players().Value("PlayerID").ToText(), playerID);
+    GoToPlayer(Players(), playerID);
     bench.Press(Qt::Key_Return);
   }
   void ShowOlson() {
@@ -76,16 +64,9 @@ struct uctScoresTest : testing::Test {
     bench.Press(Qt::Key_Return);
   }
   Value Stored(const QString& field, const QString& tournament) {
-    Recordset rows;
-    rows.Open("SELECT " + field + " FROM PlayerScores WHERE SanctionID = ?", file,
-              Recordset::Lock::ReadOnly, {tournament});
-    return rows.AtEnd() ? Value("no such row") : rows.At(0);
+    return Cell("SELECT " + field + " FROM PlayerScores WHERE SanctionID = ?", {tournament});
   }
-  qint64 Count() {
-    Recordset rows;
-    rows.Open("SELECT COUNT(*) FROM PlayerScores", file);
-    return rows.At(0).ToWhole();
-  }
+  qint64 Count() { return CountOf("PlayerScores"); }
   QString Message() { return bench.Message(); }
 };
 

@@ -6,22 +6,15 @@
 #include <QTest>
 #include <QTimer>
 
-#include "controls/GridEX.h"
-#include "data/Connection.h"
-#include "data/Recordset.h"
+#include "screens/ClubScreenTest.h"
 #include "screens/GridClicks.h"
 #include "support/RecordsetPrinters.h"
-#include "support/ScreenBench.h"
 
 namespace tavrelin {
 namespace {
 
-struct uctTeamTest : testing::Test {
-  ScreenBench bench;
-  Connection file;
-
+struct uctTeamTest : ClubScreenTest {
   void SetUp() override {
-    file.Open(ConnectString);
     AddPlayer("OLSKAR", "Olson", "Karen");
     AddPlayer("SMIJOH", "Smith", "John");
     AddPlayer("OBRAL0", "O'Brien", "Al");
@@ -41,11 +34,6 @@ struct uctTeamTest : testing::Test {
   GridEX& Pool() { return bench.Find<GridEX>("GridEX2"); }
   GridEX& Members() { return bench.Find<GridEX>("GridEX3"); }
   QString Heading() { return bench.Find<QLabel>("Label3").text(); }
-  qint64 Count(const QString& table) {
-    Recordset rows;
-    rows.Open("SELECT COUNT(*) FROM " + table, file);
-    return rows.At(0).ToWhole();
-  }
   void Choose(GridEX& grid, int row) {
     grid.setFocus();
     grid.SetRow(row);
@@ -109,7 +97,7 @@ TEST_F(uctTeamTest, ATypedTeamGetsItsNumberFromTheFileAndItsSortedPlace) {
   EXPECT_EQ(Teams().TextAt(1, "Team"), "O'Hara's 100%");
   EXPECT_EQ(Teams().ValueAt(1, "TeamID").ToWhole(), 2);
   EXPECT_TRUE(Teams().IsNewRow()) << "the next one can be typed at once";
-  EXPECT_EQ(Count("Teams"), 2);
+  EXPECT_EQ(CountOf("Teams"), 2);
 }
 
 TEST_F(uctTeamTest, ATeamTypedAMomentAgoCanBeFilledAtOnce) {
@@ -138,7 +126,7 @@ TEST_F(uctTeamTest, ATeamNameOfBlanksIsDroppedWithNoMessage) {
   TypeTeam("   ");
   EXPECT_EQ(bench.Message(), "");
   EXPECT_EQ(bench.person.beeps, 0);
-  EXPECT_EQ(Count("Teams"), 1);
+  EXPECT_EQ(CountOf("Teams"), 1);
   Teams().SetRow(1);
   Teams().SetCol("Team");
   bench.Type(" ");
@@ -181,7 +169,7 @@ TEST_F(uctTeamTest, AddingTheSamePlayerTwiceGivesAMessageAndOneRow) {
   EXPECT_EQ(bench.Message(), "Player already in list");
   EXPECT_TRUE(bench.Refused());
   EXPECT_EQ(bench.person.beeps, 1);
-  EXPECT_EQ(Count("TeamPlayers"), 1);
+  EXPECT_EQ(CountOf("TeamPlayers"), 1);
   Choose(Pool(), 3);
   EXPECT_EQ(bench.Message(), "");
 }
@@ -191,7 +179,7 @@ TEST_F(uctTeamTest, APlayerIsNotAddedBeforeATeamIsChosen) {
   Show();
   Choose(Pool(), 1);
   EXPECT_EQ(bench.Message(), "Choose a team first: press Enter on it.");
-  EXPECT_EQ(Count("TeamPlayers"), 0);
+  EXPECT_EQ(CountOf("TeamPlayers"), 0);
 }
 
 TEST_F(uctTeamTest, AMemberRowIsRemovedByTheGridsOwnDeleteWithNoQuestion) {
@@ -203,11 +191,11 @@ TEST_F(uctTeamTest, AMemberRowIsRemovedByTheGridsOwnDeleteWithNoQuestion) {
   OnRow(Members(), 1);
   bench.Press(Qt::Key_Delete);
   EXPECT_EQ(TextsOf(Members(), "PlayerID"), QStringList("Smith, John"));
-  EXPECT_EQ(Count("TeamPlayers"), 1);
+  EXPECT_EQ(CountOf("TeamPlayers"), 1);
   EXPECT_TRUE(bench.person.questions.isEmpty());
   Choose(Pool(), 2);
   EXPECT_EQ(bench.Message(), "") << "who was taken off can be put on again";
-  EXPECT_EQ(Count("TeamPlayers"), 2);
+  EXPECT_EQ(CountOf("TeamPlayers"), 2);
 }
 
 TEST_F(uctTeamTest, MembersAndPoolAreNotTypedInto) {
@@ -230,19 +218,19 @@ TEST_F(uctTeamTest, DeletingATeamIsConfirmedAndItsMembersRemain) {
   OnRow(Teams(), 1);
   bench.person.WillAnswer(false);
   bench.Press(Qt::Key_Delete);
-  EXPECT_EQ(Count("Teams"), 1);
+  EXPECT_EQ(CountOf("Teams"), 1);
   EXPECT_EQ(Members().RowCount(), 1);
   bench.person.WillAnswer(true);
   bench.Press(Qt::Key_Delete);
-  EXPECT_EQ(Count("Teams"), 0);
-  EXPECT_EQ(Count("TeamPlayers"), 1);
+  EXPECT_EQ(CountOf("Teams"), 0);
+  EXPECT_EQ(CountOf("TeamPlayers"), 1);
   EXPECT_EQ(bench.person.questions[0].title, "Confirm Deletion");
   EXPECT_EQ(bench.person.questions[0].text,
             "Deleting teams is not recommended.  It may result in invalid \r\n"
             "league scores and tournament results.  Continue? ");
   EXPECT_EQ(Heading(), "Team Players") << "nobody is put on a team that is gone";
   Choose(Pool(), 2);
-  EXPECT_EQ(Count("TeamPlayers"), 1);
+  EXPECT_EQ(CountOf("TeamPlayers"), 1);
 }
 
 TEST_F(uctTeamTest, AMemberWhoLeftTheRosterIsToldByHisNumberAndCanBeRemoved) {
@@ -378,7 +366,7 @@ TEST_F(uctTeamTest, LeavingSavesAnOpenNameAndReturningShowsWhatOthersWrote) {
   Teams().SetCol("Team");
   bench.Type("Aces");
   bench.Leave();
-  EXPECT_EQ(Count("Teams"), 2);
+  EXPECT_EQ(CountOf("Teams"), 2);
   AddPlayer("BERPIA", "Berg", "Pia");
   bench.LeaveAndReturn();
   EXPECT_EQ(Pool().RowCount(), 4);
@@ -396,7 +384,7 @@ TEST_F(uctTeamTest, WithoutTeamsOrPlayersNothingBreaks) {
     bench.Type("s");
   }
   EXPECT_EQ(bench.errors.Count(), 0);
-  EXPECT_EQ(Count("Teams"), 0);
+  EXPECT_EQ(CountOf("Teams"), 0);
 }
 
 TEST_F(uctTeamTest, LooksRightInLightAndDark) {
