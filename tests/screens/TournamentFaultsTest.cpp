@@ -37,6 +37,23 @@ TEST_F(TournamentFaultsChild, DISABLED_MendsATournament) {
   Type(Grid("GridEX1"), 1, {{"Name", "Spring Thaw"}, {"City", "Ely"}, {"Director", "Pia Berg"}});
 }
 
+TEST_F(TournamentFaultsChild, DISABLED_MendsANumber) {
+  bench.Show<uctTournaments>();
+  Type(Grid("GridEX1"), 1, {{"SanctionID", "MN-25-C04"}});
+}
+
+TEST_F(TournamentFaultsChild, DISABLED_UpdatesAverages) {
+  GridEX& entries = Entered("GridEX2");
+  bench.Click("cmdSetAverage");
+  if (bench.errors.Count() > 0) {
+    TakeFullDisk();
+    EXPECT_EQ(entries.RowCount(), 2);
+    bench.Click("cmdSetAverage");
+  }
+  EXPECT_EQ(bench.Message(), "Team must have two players");
+  EXPECT_EQ(entries.TextAt(1, "RingerPercent"), "55.00");
+}
+
 TEST_F(TournamentFaultsChild, DISABLED_TypesAClass) {
   GridEX& classes = Classes();
   classes.SetDefault("RankMethod", "P");
@@ -65,6 +82,7 @@ class TournamentFaults : public RowFaults {
     Connection file;
     file.Open(ConnectString);
     file.Execute("UPDATE TournamentEntrants SET RingerPercent = 40 WHERE PlayerID = 'YOUWIL'");
+    file.Execute("UPDATE Players SET Average = 55 WHERE PlayerID = 'YOUWIL'");
     file.Execute(
         "UPDATE TournamentClasses SET Name = 'Men', Shoes = 40, HandicapPct = 0, "
         "PlacesPaidOut = 0, DateTime = #6/20/2025 8:00 AM#");
@@ -89,6 +107,15 @@ INSTANTIATE_TEST_SUITE_P(
         RowWork{"MendsATournament",
                 "SELECT Name, City, Director FROM Tournaments WHERE SanctionID = 'MN25C03'",
                 "(null) (null) (null)", "Spring Thaw Ely Pia Berg"},
+        // One tournament with its class, two entries, a team's entry and a game: all or none.
+        RowWork{
+            "MendsANumber",
+            "SELECT t.SanctionID, (SELECT count(*) FROM TournamentEntrants e WHERE e.SanctionID = "
+            "t.SanctionID) FROM Tournaments t",
+            "MN25C03 2", "MN25C04 2", 6},
+        RowWork{"UpdatesAverages",
+                "SELECT RingerPercent FROM TournamentEntrants WHERE PlayerID = 'YOUWIL'", "40.0",
+                "55.0"},
         RowWork{
             "TypesAClass",
             "SELECT SanctionID, Name, Shoes, DateTime FROM TournamentClasses WHERE ClassID = 'B'",
