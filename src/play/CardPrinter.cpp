@@ -17,7 +17,8 @@ constexpr int TurnedFirstY = 4300;
 constexpr int TurnedSecondY = 3000;
 constexpr int HeadingY = 4600;
 constexpr int InformationY = 5800;
-constexpr int Gap = 40;      // between a text and what stands to its right
+constexpr int Gap = 40;      // between a text and the rule to its right
+constexpr int WordGap = 90;  // and the next text of its line
 constexpr int Margin = 360;  // of the paper, where no printer prints
 
 int WidthOf(Orientation paper) {
@@ -104,7 +105,7 @@ void CardPrinter::InformationLine(const Card& card) {
   const QList<CardText> texts = information_(job_, card);
   for (qsizetype i = 0; i < texts.size(); ++i) {
     const int x = texts[i].x;
-    const int room = i + 1 < texts.size() ? texts[i + 1].x - x - Gap : RoomFrom(x);
+    const int room = i + 1 < texts.size() ? texts[i + 1].x - x - WordGap : RoomFrom(x);
     PrintWithin(x, InformationY, room, texts[i].text);
   }
 }
@@ -142,8 +143,10 @@ void CardPrinter::Rows(const Card& card) {
 }
 
 void CardPrinter::GameRow(const CardLine& line, int y) {
+  const QString number =
+      line.opponentNumber == 0 ? QString() : QStringLiteral("%1. ").arg(line.opponentNumber);
   PrintWithin(CardGrid::OpponentX, y, grid_.rules.first() - CardGrid::OpponentX - Gap,
-              QStringLiteral("%1. %2").arg(line.opponentNumber).arg(line.opponent));
+              number + line.opponent);
   PrintAt(grid_.courtX, y, line.court);
   for (const int x : grid_.slashX) PrintAt(x, y, QStringLiteral("/"));
 }

@@ -99,9 +99,15 @@ class CardWriter {
 
   CardLine Line(const Game& game, const GameSide& opponent) const {
     const bool byNumber = side_ == CardSide::ByNumber;
-    return {game.game, false,
-            byNumber ? opponent.number : numbers_.value(opponent.id, opponent.number),
-            names_.value(opponent.id, byNumber ? QStringLiteral("PACER") : QString()), game.court};
+    const int number = byNumber ? opponent.number : numbers_.value(opponent.id, opponent.number);
+    QString name = names_.value(opponent.id, UnknownName(opponent.id));
+    if (name.isEmpty() && number == 0) name = NotOnFile(opponent.id);
+    return {game.game, false, number, name, game.court};
+  }
+
+  QString UnknownName(const QString& id) const {
+    if (side_ == CardSide::ByNumber) return QStringLiteral("PACER");
+    return format_.IsPacer(id) ? format_.pacerOnCards : QString();
   }
 
   const Recordset& list_;

@@ -28,9 +28,9 @@ GameRange CardGames(const QString& from, const QString& to, int entrants, CardLi
 /// One row of a card.
 struct CardLine {
   int game = 0;
-  bool bye = false;  ///< the entrant sits this game out; the rest is empty then
-  int opponentNumber = 0;
-  QString opponent;  ///< player or team; empty or "PACER" (see CardSide) for who is not in the file
+  bool bye = false;        ///< the entrant sits this game out; the rest is empty then
+  int opponentNumber = 0;  ///< 0 when it is not known
+  QString opponent;        ///< player or team; see CardSide for who is not in the file
   QString court;
 };
 
@@ -50,8 +50,8 @@ struct Card {
   QList<CardLine> lines;
 };
 
-/// How a card finds its entrant's games: by his ID, an unknown opponent having no name; or by his
-/// number in the class, an unknown opponent being the "PACER".
+/// How a card finds its entrant's games: by his ID, an unknown opponent having no name unless he
+/// has no number either; or by his number in the class, an unknown opponent being the "PACER".
 enum class CardSide { ByEntrant, ByNumber };
 
 /// The cards of all entrants, the pacer's too, in the order of their numbers, with the games of the

@@ -52,7 +52,7 @@ void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>&
   }
   for (Entrant& entrant : entrants) {
     for (const ThrowerColumns& thrower : format.throwers) {
-      const PersonName name = names.value(entrant.values[thrower.id].ToText());
+      const PersonName name = NameOrNumber(names, entrant.values[thrower.id].ToText());
       entrant.values[thrower.firstName] = name.first;
       entrant.values[thrower.lastName] = name.last;
       if (needsRoster)

@@ -191,6 +191,7 @@ PlayFormat MakeDoubles() {
                 {"PlayerTwoFirstName", "PACER 2"},
                 {"PlayerTwoLastName", " "}};
   f.pacerHasHandicap = true;
+  f.pacerOnCards = QStringLiteral("PACER");
   f.standingsName = QStringLiteral("Team");
   f.standingsRingers = {QStringLiteral("PlayerOneRingers"), QStringLiteral("PlayerTwoRingers")};
   f.ringerOrder = {"Won DESC, Loss ASC, RingerPercent DESC, HeadToHead DESC, Points DESC",
@@ -213,6 +214,15 @@ const PlayFormat& DoublesFormat() {
 
 const PlayFormat& FormatOf(const QString& code) {
   return code.trimmed().compare(u"D", Qt::CaseInsensitive) == 0 ? DoublesFormat() : SinglesFormat();
+}
+
+QString NotOnFile(const QString& id) {
+  return id + QStringLiteral(" (not on file)");
+}
+
+PersonName NameOrNumber(const ByID<PersonName>& names, const QString& id) {
+  if (names.contains(id) || id.trimmed().isEmpty()) return names.value(id);
+  return {{}, NotOnFile(id.trimmed())};
 }
 
 ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids,

@@ -68,6 +68,7 @@ struct PlayFormat {
   QStringList standingsRingers;   ///< ringers by thrower in a row of the standings
   bool hasOverride = false;       ///< the director may set the places by hand
   bool pacerHasHandicap = false;  ///< on the pacer's card
+  QString pacerOnCards;        ///< the pacer as somebody's opponent there; empty: his number alone
   bool hasTwoUpCards = false;  ///< and a worksheet; the card style is a number then, not yes or no
   RankOrder ringerOrder;       ///< ringer percentage as tie-breaker, without handicap
 
@@ -90,8 +91,15 @@ struct PersonName {
   QString Full() const { return (first + u' ' + last).trimmed(); }
 };
 
+/// What stands for the name of somebody who was deleted, so that he can still be told.
+QString NotOnFile(const QString& id);
+
 /// First and last names by PlayerID, in one query; and further columns of the roster.
 ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids,
                              const QStringList& columns = {});
+
+/// The name of this player among those; "AB1234 (not on file)" as last name for one who was
+/// deleted.
+PersonName NameOrNumber(const ByID<PersonName>& names, const QString& id);
 
 }  // namespace tavrelin

@@ -64,7 +64,7 @@ void FillNames(Connection& connection, const PlayFormat& format, Recordset& rows
   if (!columns.isEmpty()) DropStrangers(rows, format.entrantID, names);
   EachRow(rows, [&] {
     for (const ThrowerColumns& thrower : format.throwers) {
-      const PersonName name = names.value(rows[thrower.id].ToText());
+      const PersonName name = NameOrNumber(names, rows[thrower.id].ToText());
       const int width = rows.Fields()[rows.FieldIndex(thrower.fullName)].size;
       rows.Set(thrower.fullName, name.Full().left(width));
       for (const auto& [field, column] : format.rosterFields) rows.Set(field, name.values[column]);

@@ -1,5 +1,6 @@
 #include "play/ResultsText.h"
 
+#include <algorithm>
 #include <array>
 
 #include "basic/Error.h"
@@ -146,6 +147,7 @@ constexpr int TableColumns = 2;
 constexpr int TableGames = 24;
 constexpr int BlockWidth = 58;  // of the left block: the sum of its headings
 constexpr int HeadWidth = BlockWidth - 20;
+constexpr int LongestHead = BlockWidth - 2;
 
 /// The two blocks of a row; the right one is null when the class has no more entrants.
 struct BlockPair {
@@ -159,9 +161,14 @@ struct BlockPair {
   }
 };
 
+/// A name too long for its block is cut, and what was won and lost behind it stays.
 QString BlockHead(const BoxScore& block) {
-  const QString head = QStringLiteral("%1. ").arg(block.place) + BoxTitle(block);
-  return head.leftJustified(HeadWidth) + Blanks(1);
+  const QString place = QStringLiteral("%1. ").arg(block.place);
+  BoxScore fitting = block;
+  fitting.name.truncate(
+      fitting.name.size() -
+      std::max<qsizetype>(place.size() + BoxTitle(block).size() - LongestHead, 0));
+  return (place + BoxTitle(fitting)).leftJustified(HeadWidth);
 }
 
 QString GameText(const BoxScore& block, qsizetype game) {
@@ -272,11 +279,21 @@ QString ExportTheClass(const ClassResults& results, const ResultsChoice& choice)
   return text;
 }
 
+namespace {
+
+/// A name taken from a tournament or a class called "Spring/Fall" is no name of a file.
+QString HintAt(const QString& file) {
+  if (!file.contains(u'/')) return {};
+  return QStringLiteral(" (the \"/\" in the file name stands for a folder)");
+}
+
+}  // namespace
+
 QString WriteResults(const QString& path, const QString& file, const QString& text) {
   try {
     WriteTextFile(path.trimmed() + file.trimmed(), text);
   } catch (const Error& error) {
-    return QStringLiteral("Unable to open file. ") + error.description();
+    return QStringLiteral("Unable to open file. ") + error.description() + HintAt(file);
   }
   return {};
 }

@@ -26,11 +26,11 @@ EntrantLists NamesForScores(Connection& connection, const LoadedClass& loaded) {
   EntrantLists lists;
   const ByID<QString> names = format.entrantNames(connection, ids);
   for (const QString& id : ids)
-    lists.entrants.Add(id, format.IsPacer(id) ? "PACER" : names.value(id, id + " (not on file)"));
+    lists.entrants.Add(id, format.IsPacer(id) ? "PACER" : names.value(id, NotOnFile(id)));
   const ByID<PersonName> people = PlayerNames(connection, players);
   for (const QString& id : players) {
     const qsizetype pacer = format.pacerThrowers.indexOf(id);
-    const QString name = people.contains(id) ? people.value(id).Full() : id + " (not on file)";
+    const QString name = NameOrNumber(people, id).Full();
     lists.throwers.Add(id, pacer < 0 ? name : QString("PACER %1").arg(pacer + 1));
   }
   return lists;

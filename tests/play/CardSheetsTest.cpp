@@ -193,6 +193,22 @@ TEST(CardSheets, AnUnknownOpponentHasHisNumberAndNoName) {
   EXPECT_FALSE(pdf.Has("Hill1"));
 }
 
+TEST(CardSheets, AnOpponentWhoseNumberIsNotKnownStandsThereByWhatIsTold) {
+  CardJob job = DoublesJob(Procedure::OldMethod);
+  job.cards[0].lines[0].opponentNumber = 0;
+  job.cards[0].lines[0].opponent = "17 (not on file)";
+  const PdfPages pdf(Printed(job));
+  ExpectSpots(pdf, {{"17", 1200, 6700}});
+  EXPECT_FALSE(pdf.Has("0."));
+}
+
+TEST(CardSheets, TheTextsOfTheInformationLineStayApart) {
+  CardJob job = SinglesJob(Procedure::World);
+  job.className = "Intermediate";
+  const PdfPages pdf(Printed(job));
+  EXPECT_LT(pdf.Find("Intermediate").right, pdf.Find("St:").x - 80);
+}
+
 TEST(FoldedCards, BothFacesStandOnOneSheetThatHoldsThemWhole) {
   const Document document = Printed(SinglesJob(Procedure::NewMethod, 2));
   const PdfPages pdf(document);

@@ -112,9 +112,36 @@ TEST_F(CardsTest, ATeamCardNamesBothPartnersAndThePacerHasAHandicap) {
   Pair(OddEntrant::Pacer);
   const QList<Card> cards = Make(1, 3);
   ASSERT_EQ(cards.size(), 4);
-  EXPECT_EQ(Lines(cards[0]), "1 4. c1, 2 3.Team 3 c2, 3 2.Team 2 c1");
+  EXPECT_EQ(Lines(cards[0]), "1 4.PACER c1, 2 3.Team 3 c2, 3 2.Team 2 c1");
   EXPECT_EQ(cards[0].throwers[1].Full(), "Bob Of1");
   EXPECT_EQ(cards[3].handicap, 60);  // not doubled on cards
+}
+
+TEST_F(CardsTest, AnOpponentTakenOffTheRosterKeepsHisNumberAndHasNoName) {
+  MakeSingles(4);
+  Pair(OddEntrant::NotChosen);
+  connection_.Execute("DELETE FROM Players WHERE PlayerID = '000004'");
+  const QList<Card> cards = Make(1, 3);
+  ASSERT_EQ(cards.size(), 3);
+  EXPECT_EQ(Lines(cards[0]), "1 4. c1, 2 3.P3 Stone c2, 3 2.P2 Stone c1");
+}
+
+TEST_F(CardsTest, ATeamTakenOffTheFileIsToldByItsIDOnTheCardsOfTheOthers) {
+  MakeDoubles(4);
+  Pair(OddEntrant::NotChosen);
+  connection_.Execute("DELETE FROM Teams WHERE TeamID = 4");
+  const QList<Card> cards = Make(1, 3);
+  ASSERT_EQ(cards.size(), 3);
+  EXPECT_EQ(Lines(cards[0]), "1 0.4 (not on file) c1, 2 3.Team 3 c2, 3 2.Team 2 c1");
+}
+
+TEST_F(CardsTest, APartnerTakenOffTheRosterIsToldByHisNumberOnBothFaces) {
+  MakeDoubles(2);
+  Pair(OddEntrant::NotChosen);
+  connection_.Execute("DELETE FROM Players WHERE PlayerID = '20001'");
+  const Card card = Make(1, 1)[0];
+  EXPECT_EQ(card.throwers[1].Full(), "20001 (not on file)");
+  EXPECT_EQ(card.front, (QStringList{"Of1", "20001 (not on file)"}));
 }
 
 TEST_F(CardsTest, TheWorksheetListsAllGamesAndLeavesThePacerBlank) {

@@ -8,6 +8,7 @@
 
 #include "play/ClassBench.h"
 #include "play/ClassResults.h"
+#include "play/Pairing.h"
 #include "play/Ranking.h"
 #include "play/ResultsText.h"
 #include "support/PdfPages.h"
@@ -109,6 +110,52 @@ TEST_F(ResultsCommandTest, AClassWithNoApprovedGameShowsItsEntrantsWithZeros) {
   EXPECT_EQ(run.code, exits::Done);
   EXPECT_TRUE(QString::fromUtf8(run.out).contains("P2 Stone"));
   EXPECT_EQ(Results({"--pdf", Path("sheet.pdf")}).code, exits::Done);
+}
+
+TEST_F(ResultsCommandTest, TwentyPlayersInFourRoundsAreWholeOnPaperAndRefusedAsText) {
+  MakeSingles(20);
+  const QStringList courts = LoadClass(connection_, Rules()).courts;
+  ASSERT_EQ(CreatePairing(connection_, Rules(), {courts, 4, OddEntrant::NotChosen}), "");
+  connection_.Execute("UPDATE TournamentSinglesRR SET Approved = True, PlayerOnePoints = 40");
+  ASSERT_EQ(Results({"--pdf", Path("sheet.pdf")}).code, exits::Done);
+  const PdfPages pdf(Path("sheet.pdf"));
+  qsizetype scores = 0;
+  for (const PdfWord& word : pdf.Words()) scores += word.text == u"40/0" || word.text == u"0/40";
+  EXPECT_EQ(scores, 20 * 76);
+  const Ended run = Results({"--text", Path("sheet.txt")});
+  EXPECT_EQ(run.code, exits::Refused);
+  EXPECT_TRUE(run.err.contains("24 entrants with 24 games each")) << run.err.toStdString();
+  EXPECT_FALSE(QFile::exists(Path("sheet.txt")));
+}
+
+TEST_F(ResultsCommandTest, AClassOfForfeitsAloneHasEmptyLossesAndShowsItsGames) {
+  MakeSingles(3);
+  for (const auto& [one, two] : QList<QPair<int, int>>{{1, 2}, {2, 3}, {3, 1}}) {
+    Store({one, two, {21, 15}, {{10}, {7}}, 40, true, {true, true}});
+  }
+  const QString text = QString::fromUtf8(Results({}).out);
+  EXPECT_TRUE(text.contains("P1 Stone   0-2")) << text.toStdString();
+  EXPECT_EQ(text.count("F- 21/15"), 3);
+  ASSERT_EQ(Results({"--pdf", Path("sheet.pdf")}).code, exits::Done);
+  const PdfPages pdf(Path("sheet.pdf"));
+  qsizetype marks = 0, zeros = 0;
+  for (const PdfWord& word : pdf.Words()) {
+    marks += word.text == u"F-";
+    zeros += word.text == u"0.00";
+  }
+  EXPECT_EQ(marks, 6);
+  EXPECT_EQ(zeros, 3 * 3 + 3);  // average, over average and percentage; and the totals of a block
+}
+
+TEST_F(ResultsCommandTest, AClassOfTwoIsOneRowOfBlocks) {
+  MakeSingles(2);
+  Store({1, 2, {21, 15}, {{10}, {7}}, 40});
+  ASSERT_EQ(Results({"--pdf", Path("sheet.pdf")}).code, exits::Done);
+  const PdfPages pdf(Path("sheet.pdf"));
+  EXPECT_EQ(pdf.PageCount(), 1);
+  EXPECT_NEAR(pdf.Find("21/15").x, 3100, 2);
+  EXPECT_NEAR(pdf.Find("15/21").x, 3100 + 5700, 2);
+  EXPECT_NEAR(pdf.Find("15/21").y, pdf.Find("21/15").y, 2);
 }
 
 TEST_F(ResultsCommandTest, DoublesHaveTheirOwnSheet) {

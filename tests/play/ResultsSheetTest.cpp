@@ -23,9 +23,6 @@ Document Sheet(const ClassResults& results, const ResultsChoice& choice, int off
                 [&](OutputTarget& target) { PrintTheClass(target, results, choice, offset); });
 }
 
-constexpr ResultsChoice Standings = {true, false, false};
-constexpr ResultsChoice Brief = {true, false, true};
-constexpr ResultsChoice BoxScores = {false, true, false};
 constexpr ResultsChoice Both = {true, true, false};
 
 struct Spot {
@@ -48,22 +45,7 @@ void ExpectSpots(const PdfPages& pdf, double y, const QList<Spot>& spots) {
 /// Two lines whose figures have every width that a cell can have.
 ClassResults TwoLines() {
   ClassResults results = SampleSingles(0, 0);
-  StandingLine one;
-  one.place = 1;
-  one.name = "Ann Baker";
-  one.entryAverage = 65.43;
-  one.handicap = 7;
-  one.category = "MW";
-  one.card = "NY1234";
-  one.state = "NY";
-  one.won = 3;
-  one.loss = 3.5;
-  one.points = 123;
-  one.ringers = 45;
-  one.headToHead = 2;
-  one.overAverage = -1.25;
-  one.shoes = 160;
-  one.percent = 28.125;
+  const StandingLine one = SampleLine();
   StandingLine two = one;
   two.place = 2;
   two.name = "Walt Carr";
@@ -84,7 +66,7 @@ ClassResults TwoLines() {
 }
 
 TEST(ResultsSheet, HeadingOfTheSinglesSheet) {
-  const PdfPages pdf(Sheet(TwoLines(), Standings));
+  const PdfPages pdf(Sheet(TwoLines(), StandingsAlone));
   ExpectSpots(pdf, 350, {{"Spring", 200}, {"2601007", 8600}});
   EXPECT_TRUE(pdf.Has("05/09/26"));
   EXPECT_TRUE(pdf.Has("(Rank:"));
@@ -92,7 +74,7 @@ TEST(ResultsSheet, HeadingOfTheSinglesSheet) {
 }
 
 TEST(ResultsSheet, EveryColumnOfTheFullSinglesStandings) {
-  const PdfPages pdf(Sheet(TwoLines(), Standings));
+  const PdfPages pdf(Sheet(TwoLines(), StandingsAlone));
   ExpectSpots(pdf, 1000,
               {{"Pos", 200},
                {"Name", 800},
@@ -142,7 +124,7 @@ TEST(ResultsSheet, EveryColumnOfTheFullSinglesStandings) {
 }
 
 TEST(ResultsSheet, EveryColumnOfTheBriefSinglesStandings) {
-  const PdfPages pdf(Sheet(TwoLines(), Brief));
+  const PdfPages pdf(Sheet(TwoLines(), BriefStandings));
   ExpectSpots(pdf, 1000,
               {{"Pos", 200},
                {"Name", 800},
@@ -173,7 +155,7 @@ TEST(ResultsSheet, EveryColumnOfTheBriefSinglesStandings) {
 TEST(ResultsSheet, EveryColumnOfTheDoublesStandings) {
   ClassResults results = TwoLines();
   results.doubles = true;
-  const PdfPages pdf(Sheet(results, Brief));
+  const PdfPages pdf(Sheet(results, BriefStandings));
   ExpectSpots(pdf, 800, {{"Spring", 700}, {"2601007", 8600}});
   ExpectSpots(pdf, 1400,
               {{"Pos", 700},
@@ -201,11 +183,24 @@ TEST(ResultsSheet, EveryColumnOfTheDoublesStandings) {
                {"1.25-", 9150 - 125},
                {"160", 9800 + 125},
                {"28.13", 10600}});
+  ExpectSpots(pdf, 1700 + ElevenPoint,
+              {{"2.", 700},
+               {"Walt", 1200},
+               {"5.00", 4800 + 125},
+               {"12", 5600},
+               {"12", 6200},
+               {"0.5", 6700 + 125},
+               {"1234", 7200},
+               {"9", 7950 + 375},
+               {"0", 8700},
+               {"11.50", 9150},
+               {"8", 9800 + 375},
+               {"100.00", 10600 - 125}});
   EXPECT_FALSE(pdf.Has("Card#"));
 }
 
 TEST(ResultsSheet, HeadingsOfColumnsAreUnderlined) {
-  const PdfPages pdf(Sheet(TwoLines(), Standings));
+  const PdfPages pdf(Sheet(TwoLines(), StandingsAlone));
   const QImage page = pdf.Picture(1);
   const PdfWord heading = pdf.Find("Name");
   int longest = 0;
@@ -223,14 +218,14 @@ TEST(ResultsSheet, WonOfThreeAndAHalfPrintsSoAndTheCellShiftsByTheTwoCharacterDi
   ClassResults results = TwoLines();
   results.standings[0].won = 3.5;
   results.standings[1].won = 3;
-  const PdfPages pdf(Sheet(results, Standings));
+  const PdfPages pdf(Sheet(results, StandingsAlone));
   // "3.5" is three of four characters, "3" one of two.
   ExpectSpots(pdf, 1300, {{"3.5", 6150 + (4 - 3) * 125}});
   ExpectSpots(pdf, 1300 + ElevenPoint, {{"3", 6150 + (2 - 1) * 125}});
 }
 
 TEST(ResultsSheet, OverAverageBelowZeroPrintsItsMinusBehind) {
-  EXPECT_TRUE(PdfPages(Sheet(TwoLines(), Standings)).Has("1.25-"));
+  EXPECT_TRUE(PdfPages(Sheet(TwoLines(), StandingsAlone)).Has("1.25-"));
 }
 
 TEST(ResultsSheet, WithoutShoesEveryPercentageIsZero) {
@@ -316,7 +311,7 @@ TEST(ResultsSheet, ARuleStandsOverTheTotalsOfABlock) {
 }
 
 TEST(ResultsSheet, AnEntrantWithoutGamesHasNeitherRuleNorTotals) {
-  const Document document = Sheet(SampleSingles(2, 0), BoxScores);
+  const Document document = Sheet(SampleSingles(2, 0), BoxScoresAlone);
   for (const Mark& mark : document.pages[0].marks) {
     EXPECT_FALSE(std::holds_alternative<LineMark>(mark));
   }
@@ -324,7 +319,7 @@ TEST(ResultsSheet, AnEntrantWithoutGamesHasNeitherRuleNorTotals) {
 }
 
 TEST(ResultsSheet, BoxScoresAloneBeginBelowTheHeading) {
-  const PdfPages pdf(Sheet(SampleSingles(2, 1), BoxScores));
+  const PdfPages pdf(Sheet(SampleSingles(2, 1), BoxScoresAlone));
   const int top = 350 + TwelvePoint + TenPoint - 200 + 225;
   ExpectSpots(pdf, top, {{"First1", 450}, {"First2", 6150}});
   EXPECT_FALSE(pdf.Has("Pos"));
@@ -332,7 +327,7 @@ TEST(ResultsSheet, BoxScoresAloneBeginBelowTheHeading) {
 }
 
 TEST(ResultsSheet, AnOddNumberOfEntrantsLeavesTheLastRightBlockEmpty) {
-  const PdfPages pdf(Sheet(SampleSingles(3, 2), BoxScores));
+  const PdfPages pdf(Sheet(SampleSingles(3, 2), BoxScoresAlone));
   EXPECT_NEAR(pdf.Find("First3").x, 450, Near);
   for (const PdfWord& word : pdf.Words()) {
     if (word.y < pdf.Find("First3").y - Near) continue;
@@ -343,7 +338,7 @@ TEST(ResultsSheet, AnOddNumberOfEntrantsLeavesTheLastRightBlockEmpty) {
 TEST(ResultsSheet, TheNextRowStandsBelowTheLongerOfTwoBlocks) {
   ClassResults results = SampleSingles(4, 5);
   results.boxScores[0].lines.resize(2);
-  const PdfPages pdf(Sheet(results, BoxScores));
+  const PdfPages pdf(Sheet(results, BoxScoresAlone));
   // Head, headings, five games and totals, and one line between the rows of blocks.
   EXPECT_NEAR(pdf.Find("First3").y - pdf.Find("First2").y, 9 * 225, Near);
   EXPECT_NEAR(pdf.Find("First4").y - pdf.Find("First3").y, 0, Near);
@@ -406,7 +401,7 @@ TEST(ResultsSheet, EveryFigureOfADoublesBlock) {
       Block(1, "Stakes",
             {GameLine("Irons", 50, 30, {29, 7}, 40), GameLine("PACER", 120, 0, {104, 20}, 120)},
             {"Ann Baker", "Walt Carr"})};
-  const PdfPages pdf(Sheet(results, BoxScores));
+  const PdfPages pdf(Sheet(results, BoxScoresAlone));
   const int top = 800 + TwelvePoint + TenPoint - 200 + 225;
   ExpectSpots(pdf, top, {{"1.", 700}, {"Stakes", 950}});
   EXPECT_TRUE(pdf.Text().contains("Stakes 2-0 (A. - Ann Baker; B. - Walt Carr)") ||

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -15,27 +16,9 @@
 namespace tavrelin {
 namespace {
 
-constexpr ResultsChoice Standings = {true, false, false};
-constexpr ResultsChoice Brief = {true, false, true};
-constexpr ResultsChoice BoxScores = {false, true, false};
-
 ClassResults TwoLines() {
   ClassResults results = SampleSingles(0, 0);
-  StandingLine one;
-  one.place = 1;
-  one.name = "Ann Baker";
-  one.entryAverage = 65.43;
-  one.handicap = 7;
-  one.card = "NY1234";
-  one.state = "NY";
-  one.won = 3;
-  one.loss = 3.5;
-  one.points = 123;
-  one.ringers = 45;
-  one.headToHead = 2;
-  one.overAverage = -1.25;
-  one.shoes = 160;
-  one.percent = 28.125;
+  const StandingLine one = SampleLine();
   StandingLine two = one;
   two.place = 12;
   two.name = "Walt Carr";
@@ -54,14 +37,14 @@ QStringList Lines(const ClassResults& results, const ResultsChoice& choice) {
 }
 
 TEST(ResultsText, TheFirstLineNamesTournamentAndClassAndNeitherNumberNorDate) {
-  const QStringList lines = Lines(TwoLines(), Standings);
+  const QStringList lines = Lines(TwoLines(), StandingsAlone);
   EXPECT_EQ(lines[0], "Spring Open    Class A    ");
   EXPECT_EQ(lines[1], "");
-  EXPECT_FALSE(ExportTheClass(TwoLines(), Standings).contains("2601007"));
+  EXPECT_FALSE(ExportTheClass(TwoLines(), StandingsAlone).contains("2601007"));
 }
 
 TEST(ResultsText, BriefStandings) {
-  const QStringList lines = Lines(TwoLines(), Brief);
+  const QStringList lines = Lines(TwoLines(), BriefStandings);
   EXPECT_EQ(lines[2],
             "Pos     Name                       Entry %    St     Won     Lost    Pts     Rgrs"
             "      Sh      R%");
@@ -75,7 +58,7 @@ TEST(ResultsText, BriefStandings) {
 }
 
 TEST(ResultsText, FullStandings) {
-  const QStringList lines = Lines(TwoLines(), Standings);
+  const QStringList lines = Lines(TwoLines(), StandingsAlone);
   EXPECT_EQ(lines[2],
             "Pos    Name                    Entry %   Hcp  Card#   St  Won  Lost   Pts  Rgrs HToH  "
             "OvrAvg   Sh   R%");
@@ -91,7 +74,7 @@ TEST(ResultsText, FullStandings) {
 TEST(ResultsText, DoublesStandingsHaveNeitherCardNorStateNorABriefForm) {
   ClassResults results = TwoLines();
   results.doubles = true;
-  for (const ResultsChoice& choice : {Standings, Brief}) {
+  for (const ResultsChoice& choice : {StandingsAlone, BriefStandings}) {
     const QStringList lines = Lines(results, choice);
     EXPECT_EQ(lines[2],
               "Pos   Team                             Entry %  Hcp   Won  Lost   Pts  Rgrs HToH  "
@@ -110,7 +93,7 @@ TEST(ResultsText, TwoBlocksStandBesideEachOtherInFixedColumns) {
       Block(1, "Ann Baker",
             {GameLine("Walt Carr", 40, 12, {30}, 46), GameLine("PACER", 9, 10, {5}, 46, "F-")}),
       Block(2, "Walt Carr", {GameLine("Ann Baker", 12, 40, {19}, 46)})};
-  const QStringList lines = Lines(results, BoxScores);
+  const QStringList lines = Lines(results, BoxScoresAlone);
   EXPECT_EQ(lines[2], "");
   EXPECT_EQ(lines[3].left(58).trimmed(), "1. Ann Baker   1-1");
   EXPECT_EQ(lines[3].mid(58).trimmed(), "2. Walt Carr   0-1");
@@ -131,7 +114,7 @@ TEST(ResultsText, TwoBlocksStandBesideEachOtherInFixedColumns) {
 }
 
 TEST(ResultsText, AnOddNumberOfEntrantsLeavesTheLastRightBlockEmpty) {
-  const QStringList lines = Lines(SampleSingles(3, 2), BoxScores);
+  const QStringList lines = Lines(SampleSingles(3, 2), BoxScoresAlone);
   const qsizetype third = lines.indexOf(QRegularExpression("^3\\. First3.*"));
   ASSERT_GT(third, 0);
   for (const QString& line : lines.mid(third)) EXPECT_EQ(line.mid(58).trimmed(), "");
@@ -141,15 +124,52 @@ TEST(ResultsText, AnOddNumberOfEntrantsLeavesTheLastRightBlockEmpty) {
 TEST(ResultsText, ANameLongerThanItsColumnStaysApartFromTheNextFigure) {
   ClassResults results = TwoLines();
   results.standings[0].name = "Bartholomew-Christopher Featherstonehaugh-Sme";
-  EXPECT_TRUE(Lines(results, Standings)[4].startsWith(
+  EXPECT_TRUE(Lines(results, StandingsAlone)[4].startsWith(
       " 1. Bartholomew-Christopher Featherstonehaugh-Sme 65.43    7"));
+}
+
+TEST(ResultsText, NamesOf45CharactersAndHalfWinsLeaveTheSecondBlockInItsColumns) {
+  const QString name = "Bartholomew-Christopher Featherstonehaugh-Sme";
+  ClassResults results = SampleSingles(0, 0);
+  for (int n = 1; n <= 12; ++n) {
+    results.boxScores << Block(n, name, {GameLine(name, 120, 118, {99}, 200, "F+")});
+    results.boxScores.last().won = 10.5;
+    results.boxScores.last().loss = 12.5;
+  }
+  const QStringList lines = Lines(results, BoxScoresAlone);
+  for (const QString& line : lines.mid(3)) {
+    if (line.isEmpty()) continue;
+    EXPECT_EQ(line[57], u' ') << line.toStdString();
+    EXPECT_EQ(line.left(58).trimmed().isEmpty(), line.mid(58).trimmed().isEmpty());
+  }
+  const QString last = lines.filter("11. ").first();
+  EXPECT_TRUE(last.startsWith("11. Bartholomew-Christopher Featherstone"));
+  EXPECT_EQ(last.left(58).trimmed().right(12), "   10.5-12.5");
+  EXPECT_EQ(last.mid(58, 4), "12. ");
+}
+
+TEST(ResultsText, AClassWithNoApprovedGameHasBlocksWithZerosAndNoGames) {
+  const QStringList lines = Lines(SampleSingles(2, 0), BoxScoresAlone);
+  EXPECT_EQ(lines[3].left(58).trimmed(), "1. First1 Last1   0-0");
+  EXPECT_EQ(lines[6].simplified(), "---------------------- ----------------------");
+  EXPECT_EQ(lines[7].simplified(), "0 0 0 0.00 0 0 0 0.00");
+  EXPECT_FALSE(ExportTheClass(SampleDoubles(2, 0), BoxScoresAlone).contains("0.00"));
+}
+
+TEST(ResultsText, ABlockOnTheRightIsToldAsFarAsTheOneOnTheLeft) {
+  ClassResults results = SampleSingles(2, 3);
+  results.boxScores[1].lines.resize(1);
+  EXPECT_TRUE(Lines(results, BoxScoresAlone)[8].mid(58).trimmed().isEmpty());
+  results = SampleSingles(2, 3);
+  results.boxScores[0].lines.resize(1);
+  EXPECT_TRUE(Lines(results, BoxScoresAlone)[7].startsWith(QString(30, u' ') + "---"));
 }
 
 TEST(ResultsText, TotalsAreThoseOfTheGamesRead) {
   ClassResults results = SampleSingles(0, 0);
   results.boxScores = {Block(1, "Ann Baker", {GameLine("Walt Carr", 9, 40, {20}, 40, "F-")})};
   results.boxScores[0].totals = {0, 0, {0}, {0}};  // a forfeited game is empty in the standings
-  const QStringList lines = Lines(results, BoxScores);
+  const QStringList lines = Lines(results, BoxScoresAlone);
   EXPECT_EQ(lines[8].simplified(), "9 20 40 50.00");
 }
 
@@ -165,7 +185,7 @@ TEST(ResultsText, TwentyFiveEntrantsFailWhileThePrintedSheetSucceeds) {
   PrintTheClass(target, results, {});
   EXPECT_GT(target.Written().pages.size(), 1);
   EXPECT_NO_THROW(ExportTheClass(SampleSingles(24, 24), {}));
-  EXPECT_NO_THROW(ExportTheClass(results, Standings));
+  EXPECT_NO_THROW(ExportTheClass(results, StandingsAlone));
   EXPECT_THROW(ExportTheClass(SampleSingles(2, 25), {}), Error);
 }
 
@@ -188,10 +208,21 @@ TEST(ResultsText, AFileThatCannotBeOpenedIsASentenceAndNothingIsWritten) {
   const QTemporaryDir folder;
   EXPECT_EQ(WriteResults(folder.filePath("none") + "/", " A.txt ", "text"),
             "Unable to open file. No such file or directory");
+  EXPECT_EQ(WriteResults(folder.path() + "/", "", "text"),
+            "Unable to open file. Filename refers to a directory");
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
   EXPECT_EQ(WriteResults(folder.path() + "/ ", " A.txt ", "one\ntwo\n"), "");
   QFile file(folder.filePath("A.txt"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "one\r\ntwo\r\n");
+}
+
+TEST(ResultsText, ASlashInTheFileNameIsExplainedWhenItsFolderIsNotThere) {
+  const QTemporaryDir folder;
+  EXPECT_EQ(WriteResults(folder.path() + "/", "Spring/Fall-A.txt", "text"),
+            "Unable to open file. No such file or directory (the \"/\" in the file name stands for "
+            "a folder)");
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 }  // namespace

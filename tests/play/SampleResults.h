@@ -94,4 +94,30 @@ inline ClassResults SampleDoubles(int teams, int games) {
   return results;
 }
 
+/// Which sections are told.
+inline constexpr ResultsChoice StandingsAlone = {true, false, false};
+inline constexpr ResultsChoice BriefStandings = {true, false, true};
+inline constexpr ResultsChoice BoxScoresAlone = {false, true, false};
+
+/// A line of the standings with half wins and a figure below the average.
+inline StandingLine SampleLine() {
+  StandingLine line;
+  line.place = 1;
+  line.name = QStringLiteral("Ann Baker");
+  line.entryAverage = 65.43;
+  line.handicap = 7;
+  line.category = QStringLiteral("MW");
+  line.card = QStringLiteral("NY1234");
+  line.state = QStringLiteral("NY");
+  line.won = 3;
+  line.loss = 3.5;
+  line.points = 123;
+  line.ringers = 45;
+  line.headToHead = 2;
+  line.overAverage = -1.25;
+  line.shoes = 160;
+  line.percent = 28.125;
+  return line;
+}
+
 }  // namespace tavrelin

@@ -1,94 +1,21 @@
-#include "play/uctPlayTime.h"
+#include "play/PlayOutputBench.h"
 
-#include <gtest/gtest.h>
-
-#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-
-#include "basic/TextFile.h"
-#include "controls/GridEX.h"
-#include "play/ClassBench.h"
-#include "play/Pairing.h"
-#include "support/ScreenBench.h"
+#include <QSet>
 
 namespace tavrelin {
 namespace {
 
-/// A class of players of equal average; every game that is played goes 30 to 20 for player one.
-class uctPlayTimeResultsTest : public ClassBench {
+class uctPlayTimeResultsTest : public PlayOutputBench<uctPlayTime> {
  protected:
-  ScreenBench bench;
-
-  void Show() {
-    ConnectString = ConnectStringFor(path_);
-    bench.store().SaveRegistryString({}, "RecentTournament", "26-01-007   Spring Open");
-    bench.store().SaveRegistryString({}, "TournamentPath", folder_.path() + "/");
-    bench.Show<uctPlayTime>();
-  }
-  void ShowResults() {
-    Show();
-    bench.Click("cmdLoad");
-    OpenResults();
-  }
-  void OpenResults() {
-    bench.Find<QTabWidget>("SSTab1").setCurrentIndex(1);
-    bench.ProcessEvents();
-  }
-  void MakePaired(int entrants, OddEntrant odd = OddEntrant::Pacer) {
-    MakeSingles(entrants);
-    Pair(odd);
-  }
-  void Pair(OddEntrant odd = OddEntrant::Pacer) {
-    const QStringList courts = LoadClass(connection_, Rules()).courts;
-    const bool even = LoadClass(connection_, Rules()).entrants % 2 == 0;
-    ASSERT_EQ(CreatePairing(connection_, Rules(), {courts, 1, even ? OddEntrant::NotChosen : odd}),
-              QString());
-  }
-  void Play(const QString& where = "1 = 1") {
-    connection_.Execute(
-        "UPDATE TournamentSinglesRR SET Approved = True, PlayerOnePoints = 30, "
-        "PlayerTwoPoints = 20, PlayerOneRingers = 16, PlayerTwoRingers = 12, "
-        "Shoes = 40 WHERE " +
-        where);
-  }
-  void Set(int setting, const QString& value) {
-    connection_.Execute("UPDATE SystemSettings SET SettingValue = ? WHERE SettingID = ?",
-                        {value, setting});
-  }
-
-  void Check(const QString& name) {
-    if (!bench.Find<QCheckBox>(name).isChecked()) bench.Click(name);
-  }
-  bool IsChecked(const QString& name) { return bench.Find<QAbstractButton>(name).isChecked(); }
-  bool IsEnabled(const QString& name) { return bench.Find(name).isEnabled(); }
-  QString Text(const QString& name) { return bench.Find<QLineEdit>(name).text(); }
-  QTabWidget& Tabs() { return bench.Find<QTabWidget>("SSTab1"); }
-  GridEX& Scores() { return bench.Find<GridEX>("GridEX1"); }
-  const Document& Printed() { return bench.printer.printed.last().document; }
-  qsizetype Pages() { return Printed().pages.size(); }
-  QStringList PrintedTexts() { return TextsOf(Printed()); }
-  qsizetype Times(const QString& text) { return PrintedTexts().count(text); }
-  void ExpectRefusal(const QString& message) {
-    EXPECT_EQ(bench.Message(), message);
-    EXPECT_TRUE(bench.Refused());
-    EXPECT_EQ(bench.person.beeps, 1);
-    EXPECT_TRUE(bench.printer.printed.isEmpty());
-    EXPECT_TRUE(bench.printer.previewed.isEmpty());
-  }
-
   const QStringList outputs = {
       "optFront",          "optBack",        "txtFrom",      "txtTo",
       "cboPlayers",        "chkRRWorksheet", "cmdPrintPair", "chkStandings",
       "chkBoxScores",      "chkBrief",       "txtCopies",    "cmdPrintResults",
       "cmdPreviewResults", "txtPath",        "txtFile",      "cmdExport"};
 };
-
-// State
 
 TEST_F(uctPlayTimeResultsTest, CardsAndResultsWaitForAClassWithGames) {
   MakeSingles(4);
@@ -112,18 +39,6 @@ TEST_F(uctPlayTimeResultsTest, DeletingThePairingEmptiesAndDisablesThem) {
   EXPECT_EQ(bench.Find<QComboBox>("cboPlayers").count(), 0);
 }
 
-TEST_F(uctPlayTimeResultsTest, ALoadedClassOffersItsPlayersAndItsHighestGame) {
-  MakePaired(5);
-  ShowResults();
-  const auto& players = bench.Find<QComboBox>("cboPlayers");
-  QStringList items;
-  for (int i = 0; i < players.count(); ++i) items << players.itemText(i);
-  EXPECT_EQ(items, (QStringList{"All players", "1. P1 Stone", "2. P2 Stone", "3. P3 Stone",
-                                "4. P4 Stone", "5. P5 Stone", "6. PACER"}));
-  EXPECT_EQ(Text("txtTo"), "5");
-  EXPECT_EQ(Text("txtFrom"), "");
-}
-
 TEST_F(uctPlayTimeResultsTest, BriefAndTheFolderAreRememberedWhenTheScreenIsLeft) {
   MakePaired(4);
   ShowResults();
@@ -136,212 +51,6 @@ TEST_F(uctPlayTimeResultsTest, BriefAndTheFolderAreRememberedWhenTheScreenIsLeft
   EXPECT_TRUE(IsChecked("chkBrief"));
   EXPECT_EQ(Text("txtPath"), "D:\\Results");
 }
-
-TEST_F(uctPlayTimeResultsTest, AFolderOfTheProgramGivesWayToTheDataFolder) {
-  MakePaired(4);
-  Show();
-  bench.Leave();
-  bench.store().SaveRegistryString({}, "TournamentPath", "C:\\Program Files\\Club\\");
-  bench.LeaveAndReturn();
-  EXPECT_EQ(Text("txtPath"), "C:\\TavrelinData\\");
-}
-
-TEST_F(uctPlayTimeResultsTest, TheFileIsNamedAfterTheTournamentAndThenAfterTheClass) {
-  MakePaired(4);
-  Show();
-  EXPECT_EQ(Text("txtFile"), "26-01-007SpringOpen.txt");
-  bench.Click("cmdLoad");
-  EXPECT_EQ(Text("txtFile"), "SpringOpen-AClassA.txt");
-}
-
-// Cards
-
-TEST_F(uctPlayTimeResultsTest, FrontsAreFollowedByBacksAndBacksByFronts) {
-  MakePaired(4);
-  ShowResults();
-  EXPECT_TRUE(IsChecked("optFront"));
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 4);
-  EXPECT_FALSE(PrintedTexts().contains("Totals"));
-  EXPECT_TRUE(IsChecked("optBack"));
-  EXPECT_EQ(bench.Message(), "Document has been sent to printer");
-  EXPECT_FALSE(bench.Refused());
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Times("Totals"), 4);
-  EXPECT_TRUE(IsChecked("optFront"));
-}
-
-TEST_F(uctPlayTimeResultsTest, AClubThatPrintsBacksAloneStaysOnTheBack) {
-  MakePaired(4);
-  Set(4, "yes");
-  ShowResults();
-  EXPECT_TRUE(IsChecked("optBack"));
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Times("Totals"), 4);
-  EXPECT_TRUE(IsChecked("optBack"));
-}
-
-TEST_F(uctPlayTimeResultsTest, TwelvePlayersAndBlankBoxesPrintGamesOneToEleven) {
-  MakePaired(12);
-  ShowResults();
-  bench.Click("optBack");
-  bench.Fill("txtTo", "");
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 12);
-  EXPECT_EQ(Times("11"), 12);
-  EXPECT_EQ(Times("12"), 0);
-}
-
-TEST_F(uctPlayTimeResultsTest, ThirteenPlayersAndBlankBoxesAreTooManyGamesForACard) {
-  MakePaired(13);
-  ShowResults();
-  bench.Fill("txtTo", "");
-  bench.Focus("cmdPrintPair");
-  bench.Click("cmdPrintPair");
-  ExpectRefusal("Cannot print more than 11 games on card");
-  EXPECT_EQ(bench.FocusName(), "txtTo");
-  EXPECT_TRUE(IsChecked("optFront"));
-}
-
-TEST_F(uctPlayTimeResultsTest, ElevenGamesAreACardAndTwelveAreNot) {
-  MakePaired(14);
-  ShowResults();
-  bench.Fill("txtFrom", "3");
-  bench.Fill("txtTo", "14");
-  bench.Click("cmdPrintPair");
-  ExpectRefusal("Cannot print more than 11 games on card");
-  bench.Fill("txtTo", "13");
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 14);
-}
-
-TEST_F(uctPlayTimeResultsTest, BoxesWithoutANumberStandForTheWholeRoundRobin) {
-  MakePaired(4);
-  ShowResults();
-  bench.Click("optBack");
-  bench.Fill("txtFrom", "x");
-  bench.Fill("txtTo", "y");
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Times("Totals"), 4);
-  EXPECT_EQ(Times("3"), 4);
-}
-
-TEST_F(uctPlayTimeResultsTest, OnePlayerGetsExactlyHisCard) {
-  MakePaired(4);
-  ShowResults();
-  bench.Click("optBack");
-  bench.Pick("cboPlayers", "3. P3 Stone");
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 1);
-  EXPECT_TRUE(PrintedTexts().contains("3.P3 Stone"));
-}
-
-TEST_F(uctPlayTimeResultsTest, TwoUpCardsAskForTheirGamesWhenWarningsAreOn) {
-  MakePaired(4);
-  Set(3, "3");
-  Set(7, "Y");
-  ShowResults();
-  bench.Fill("txtFrom", "2");
-  bench.person.WillAnswer(false);
-  bench.Click("cmdPrintPair");
-  ASSERT_EQ(bench.person.questions.size(), 1);
-  EXPECT_EQ(bench.person.questions[0].title, "Confirm Round Robin Print");
-  EXPECT_EQ(bench.person.questions[0].text,
-            "Printing Round Robin Cards for Games 2 to 3  Is this correct?");
-  EXPECT_TRUE(bench.printer.printed.isEmpty());
-  EXPECT_EQ(bench.Message(), "");
-  bench.person.WillAnswer(true);
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 2);
-  EXPECT_TRUE(IsChecked("optFront"));
-}
-
-TEST_F(uctPlayTimeResultsTest, TwoUpCardsAreNotAskedAboutWithoutWarnings) {
-  MakePaired(4);
-  Set(3, "3");
-  ShowResults();
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 2);
-}
-
-TEST_F(uctPlayTimeResultsTest, FoldedCardsNeedNoFaceAndLeaveTheSelectionAlone) {
-  MakePaired(4);
-  Set(3, "yes");
-  ShowResults();
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 4);
-  EXPECT_EQ(Times("Totals"), 4);
-  EXPECT_TRUE(IsChecked("optFront"));
-}
-
-TEST_F(uctPlayTimeResultsTest, SettingsAreReadAgainWhenTheScreenIsShownAgain) {
-  MakePaired(4);
-  ShowResults();
-  bench.Leave();
-  Set(3, "2");
-  bench.LeaveAndReturn();
-  bench.Click("cmdLoad");
-  OpenResults();
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Times("Totals"), 4);
-}
-
-TEST_F(uctPlayTimeResultsTest, TheWorksheetListsAllGamesAndLeavesTheFaceAlone) {
-  MakePaired(4);
-  ShowResults();
-  Check("chkRRWorksheet");
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(bench.printer.printed.last().title, "Round Robin Worksheet");
-  EXPECT_EQ(Times("P1 Stone"), 3);
-  EXPECT_TRUE(IsChecked("optFront"));
-  EXPECT_EQ(bench.Message(), "Document has been sent to printer");
-}
-
-TEST_F(uctPlayTimeResultsTest, AWorksheetWithoutGamesIsRefused) {
-  MakePaired(2);
-  Show();
-  bench.Click("cmdLoad");
-  bench.person.WillAnswer(true);
-  ASSERT_TRUE(Scores().DeleteRow());
-  OpenResults();
-  Check("chkRRWorksheet");
-  bench.person.beeps = 0;
-  bench.Click("cmdPrintPair");
-  ExpectRefusal("No players to report");
-}
-
-TEST_F(uctPlayTimeResultsTest, APrinterThatFailsTakesNoCardsAndMovesNoFace) {
-  MakePaired(4);
-  ShowResults();
-  bench.printer.failure = "The printer Office does not answer";
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(bench.errors.Take().description, "The printer Office does not answer");
-  EXPECT_TRUE(IsChecked("optFront"));
-  EXPECT_EQ(bench.Message(), "");
-  bench.printer.failure.clear();
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(Pages(), 4);
-}
-
-TEST_F(uctPlayTimeResultsTest, CardsThatWentIntoAFileAreNotReportedAsSentToAPrinter) {
-  MakePaired(4);
-  ShowResults();
-  bench.printer.installed = false;
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(bench.Message(), "File has been created");
-  EXPECT_TRUE(IsChecked("optBack"));
-}
-
-TEST_F(uctPlayTimeResultsTest, CardsThatTheOperatorWouldNotSaveAreNotReportedAsPrinted) {
-  MakePaired(4);
-  ShowResults();
-  bench.printer.accepted = false;
-  bench.Click("cmdPrintPair");
-  EXPECT_EQ(bench.Message(), "");
-  EXPECT_TRUE(IsChecked("optFront"));
-}
-
-// Results
 
 TEST_F(uctPlayTimeResultsTest, OneOfTheSectionsMustBeChosen) {
   MakePaired(4);
@@ -585,51 +294,6 @@ TEST_F(uctPlayTimeResultsTest, AScoreBeingTypedIsTakenAlongAndARefusedOneBarsThe
   EXPECT_EQ(bench.printer.printed.size(), 1);
   Scores().SetDataChanged(false);
 }
-
-// Text file
-
-TEST_F(uctPlayTimeResultsTest, TheTextFileHoldsTheSectionsAndTheFolderGetsItsBackslash) {
-  MakePaired(4);
-  Play();
-  ShowResults();
-  Check("chkStandings");
-  bench.Fill("txtPath", " " + folder_.path());
-  bench.Fill("txtFile", "Final.txt ");
-  bench.Click("cmdExport");
-  EXPECT_EQ(bench.Message(), "File has been created");
-  EXPECT_EQ(bench.person.beeps, 1);
-  EXPECT_EQ(Text("txtPath"), folder_.path() + "\\");
-  const QString text = ReadTextFile(folder_.filePath("Final.txt"));
-  EXPECT_TRUE(text.startsWith("Spring Open    Class A    \n\nPos"));
-  EXPECT_FALSE(text.contains("Opponent"));
-}
-
-TEST_F(uctPlayTimeResultsTest, AFolderThatIsNotThereIsRefusedAndNothingIsWritten) {
-  MakePaired(4);
-  ShowResults();
-  Check("chkStandings");
-  bench.Fill("txtPath", folder_.path() + "/nowhere/");
-  bench.Click("cmdExport");
-  EXPECT_EQ(bench.Message(), "Unable to open file. No such file or directory");
-  EXPECT_TRUE(bench.Refused());
-  EXPECT_EQ(bench.person.beeps, 1);
-  EXPECT_FALSE(QFile::exists(folder_.path() + "/nowhere"));
-}
-
-TEST_F(uctPlayTimeResultsTest, TwentyFivePlayersFitOnPaperAndNotInTheTextFile) {
-  MakeSingles(25);
-  Store({1, 2, {30, 20}, {{16}, {12}}});
-  ShowResults();
-  Check("chkBoxScores");
-  bench.Click("cmdPrintResults");
-  EXPECT_EQ(Times("Opponent"), 25);
-  bench.Click("cmdExport");
-  EXPECT_EQ(bench.errors.Take().number, errors::Subscript);
-  EXPECT_NE(bench.Message(), "File has been created");
-  EXPECT_FALSE(QFile::exists(folder_.filePath("SpringOpen-AClassA.txt")));
-}
-
-// Look
 
 TEST_F(uctPlayTimeResultsTest, TabReachesEveryControlOfTheResultsTab) {
   MakePaired(5);

@@ -1,65 +1,14 @@
-#include "play/uctPlayTimeTeams.h"
+#include "play/PlayOutputBench.h"
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
-#include <QLineEdit>
 #include <QSet>
-#include <QTabWidget>
 
 #include "basic/TextFile.h"
-#include "controls/GridEX.h"
-#include "play/ClassBench.h"
-#include "play/Pairing.h"
-#include "support/ScreenBench.h"
 
 namespace tavrelin {
 namespace {
 
-class uctPlayTimeTeamsResultsTest : public ClassBench {
- protected:
-  ScreenBench bench;
-
-  void Show() {
-    ConnectString = ConnectStringFor(path_);
-    bench.store().SaveRegistryString({}, "RecentTournament", "26-01-007   Spring Open");
-    bench.store().SaveRegistryString({}, "TournamentPath", folder_.path() + "/");
-    bench.Show<uctPlayTimeTeams>();
-  }
-  void ShowResults() {
-    Show();
-    bench.Click("cmdLoad");
-    OpenResults();
-  }
-  void OpenResults() {
-    bench.Find<QTabWidget>("SSTab1").setCurrentIndex(1);
-    bench.ProcessEvents();
-  }
-  void MakePaired(int teams) {
-    MakeDoubles(teams);
-    const OddEntrant odd = teams % 2 == 0 ? OddEntrant::NotChosen : OddEntrant::Pacer;
-    ASSERT_EQ(CreatePairing(connection_, Rules(), {LoadClass(connection_, Rules()).courts, 1, odd}),
-              QString());
-  }
-  void Play(const QString& where = "1 = 1") {
-    connection_.Execute(
-        "UPDATE TournamentDoublesRR SET Approved = True, TeamOnePoints = 30, TeamTwoPoints = 20, "
-        "TeamOnePlayerOneRingers = 16, TeamOnePlayerTwoRingers = 9, Shoes = 40 WHERE " +
-        where);
-  }
-  void Set(int setting, const QString& value) {
-    connection_.Execute("UPDATE SystemSettings SET SettingValue = ? WHERE SettingID = ?",
-                        {value, setting});
-  }
-  bool IsVisible(const QString& name) { return bench.Find(name).isVisible(); }
-  bool IsChecked(const QString& name) { return bench.Find<QAbstractButton>(name).isChecked(); }
-  QString Text(const QString& name) { return bench.Find<QLineEdit>(name).text(); }
-  const Document& Printed() { return bench.printer.printed.last().document; }
-  qsizetype Times(const QString& text) { return TextsOf(Printed()).count(text); }
-};
+class uctPlayTimeTeamsResultsTest : public PlayOutputBench<uctPlayTimeTeams> {};
 
 TEST_F(uctPlayTimeTeamsResultsTest, HasNeitherWorksheetNorBriefNorCopies) {
   Show();
