@@ -52,7 +52,7 @@ QString GridHeader::DragKind() {
 
 int GridHeader::CaptionWidth(int number) const {
   const QString caption = core_.model.Column(number).caption;
-  return fontMetrics().horizontalAdvance(caption) + 16 + (caption.isEmpty() ? 0 : 18);
+  return fontMetrics().horizontalAdvance(caption) + 14 + (caption.isEmpty() ? 0 : 14);
 }
 
 void GridHeader::ShowSortKey() {

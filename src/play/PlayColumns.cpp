@@ -66,7 +66,7 @@ void AddThrowers(QList<GridColumn>& columns, const SideColumns& side) {
     if (team) {
       columns.append({.caption = i == 0 ? "A" : "B",
                       .field = side.throwers[i],
-                      .width = 850,
+                      .width = 760,
                       .selectable = false,
                       .editable = false,
                       .spokenCaption = Spoken(side.throwers[i])});
@@ -87,7 +87,7 @@ void AddSide(QList<GridColumn>& columns, const SideColumns& side, const QString&
   AddForfeit(columns, side);
   columns.append({.caption = "Name",
                   .field = side.id,
-                  .width = 1150,
+                  .width = 1600,
                   .editor = CellEditor::List,
                   .fill = true,
                   .spokenCaption = Spoken(Stem(side))});
