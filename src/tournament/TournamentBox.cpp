@@ -1,6 +1,7 @@
 #include "tournament/TournamentBox.h"
 
 #include <QLineEdit>
+#include <QWheelEvent>
 #include <utility>
 
 #include "basic/SanctionNumber.h"
@@ -36,6 +37,10 @@ void TournamentBox::GoBack() {
 
 QString TournamentBox::SanctionID() const {
   return SanctionOfComboText(currentText());
+}
+
+void TournamentBox::wheelEvent(QWheelEvent* event) {
+  event->ignore();
 }
 
 void TournamentBox::TextSettled() {

@@ -27,6 +27,11 @@ class TournamentBox : public QComboBox {
   /// The same tournament was picked once more.
   void ChosenAgain();
 
+ protected:
+  /// A wheel turned over the box scrolls nothing and chooses nothing: players would be entered into
+  /// a tournament that nobody meant.
+  void wheelEvent(QWheelEvent* event) override;
+
  private:
   void TextSettled();
 

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QWheelEvent>
 
 #include "controls/GridEX.h"
 #include "data/Connection.h"
@@ -253,6 +254,18 @@ TEST_F(uctEntrantsTest, NobodyIsEnteredIntoATournamentThatWasDeleted) {
   EXPECT_EQ(bench.Message(), gone);
   EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentEntrants").ToWhole(), 0);
   EXPECT_EQ(Ask("SELECT COUNT(*) FROM TournamentTeamEntrants").ToWhole(), 0);
+}
+
+TEST_F(uctEntrantsTest, TheWheelOverTheBoxChoosesNoOtherTournament) {
+  file.Execute("INSERT INTO Tournaments (SanctionID, Date) VALUES ('WI25B02', #6/1/2025#)");
+  bench.Show<uctEntrants>();
+  auto& box = bench.Find<QComboBox>("cboTournaments");
+  for (const int notch : {-120, 120}) {
+    QWheelEvent turn(QPointF(9, 9), box.mapToGlobal(QPointF(9, 9)), {}, {0, notch}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&box, &turn);
+    EXPECT_EQ(box.currentText(), "MN-25-A01   Spring Open");
+  }
 }
 
 TEST_F(uctEntrantsTest, ATypedNumberInSmallLettersChoosesItsTournament) {

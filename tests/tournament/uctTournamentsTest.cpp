@@ -284,7 +284,7 @@ TEST_F(uctTournamentsTest, ADuplicateLetterIsRefused) {
   EXPECT_EQ(Count("TournamentClasses"), 1);
 }
 
-TEST_F(uctTournamentsTest, AClassStartsAtEightOnTheTournamentsDayAlsoWhenTheClockIsChanged) {
+TEST_F(uctTournamentsTest, AClassStartsAtEightOnTheTournamentsDay) {
   AddTournament("MN25A01", "3/9/2025");
   Show();
   ChooseFirstTournament();
