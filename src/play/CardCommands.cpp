@@ -74,7 +74,7 @@ LoadedClass LoadPairedClass(Connection& connection, const QStringList& arguments
 int NumberOf(const LoadedClass& loaded, const QString& entrantID) {
   const int field = loaded.list.FieldIndex(loaded.Format().entrantID);
   for (int number = 1; number <= loaded.list.RecordCount(); ++number) {
-    if (loaded.list.CellAt(number, field).Trimmed() == entrantID) return number;
+    if (IDKey(loaded.list.CellAt(number, field).Trimmed()) == IDKey(entrantID)) return number;
   }
   Refuse(QStringLiteral("\"%1\" is not entered in the class").arg(entrantID));
 }

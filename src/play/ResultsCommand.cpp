@@ -3,8 +3,8 @@
 #include <optional>
 #include <QTextStream>
 
+#include "app/OptionReader.h"
 #include "app/PdfOption.h"
-#include "basic/TextFile.h"
 #include "data/Connection.h"
 #include "data/SystemSettings.h"
 #include "play/ClassResults.h"
@@ -23,14 +23,10 @@ struct ResultsOptions {
   std::optional<QString> pdfFile;
 };
 
-ResultsOptions ReadOptions(QStringList left) {
+ResultsOptions ReadOptions(const QStringList& arguments) {
   ResultsOptions options;
-  const auto file = [&left] {
-    if (left.isEmpty()) throw WrongUsage();
-    return left.takeFirst();
-  };
-  while (!left.isEmpty()) {
-    const QString option = left.takeFirst();
+  for (OptionReader reader(arguments); !reader.AtEnd();) {
+    const QString option = reader.Next();
     if (option == u"--brief") {
       options.choice.brief = true;
     } else if (option == u"--no-standings") {
@@ -38,9 +34,9 @@ ResultsOptions ReadOptions(QStringList left) {
     } else if (option == u"--no-box-scores") {
       options.choice.boxScores = false;
     } else if (option == u"--text") {
-      options.textFile = file();
+      options.textFile = reader.Next();
     } else if (option == u"--pdf") {
-      options.pdfFile = file();
+      options.pdfFile = reader.Next();
     } else {
       throw WrongUsage();
     }
@@ -49,12 +45,16 @@ ResultsOptions ReadOptions(QStringList left) {
   return options;
 }
 
-void WriteText(const QString& file, const QString& text, QTextStream& out) {
+int WriteText(const QString& file, const QString& text, QTextStream& out, QTextStream& err) {
   if (file == u"-") {
     out << text;
-  } else {
-    WriteTextFile(file, text);
+    return exits::Done;
   }
+  const qsizetype name = file.lastIndexOf(u'/') + 1;
+  const QString refusal = WriteResults(file.left(name), file.mid(name), text);
+  if (refusal.isEmpty()) return exits::Done;
+  err << refusal << '\n';
+  return exits::Refused;
 }
 
 int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& err) {
@@ -74,8 +74,7 @@ int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& 
   const ClassResults results = ReadResults(connection, standings);
   if (!options.pdfFile) {
     const QString text = ExportTheClass(results, options.choice);
-    WriteText(options.textFile.value_or(QStringLiteral("-")), text, out);
-    return exits::Done;
+    return WriteText(options.textFile.value_or(QStringLiteral("-")), text, out, err);
   }
   const int offset = SystemSettings(connection).Twips(Setting::ResultsVertical);
   const QString title = results.tournament + QStringLiteral(" - ") + results.className;

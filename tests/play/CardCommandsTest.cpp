@@ -89,6 +89,18 @@ TEST_F(CardCommandsTest, FrontGamesAndPlayerNarrowTheCards) {
   ExpectSpots(one, {{"3.P3", 200, 4600}, {"2", 400, 6700}, {"3", 400, 7100}});
 }
 
+TEST_F(CardCommandsTest, APlayerIsFoundWhateverTheCaseOfHisNumber) {
+  MakeSingles(2);
+  for (const char* table : {"Players", "TournamentEntrants"}) {
+    connection_.Execute(
+        QStringLiteral("UPDATE %1 SET PlayerID = 'AB0002' WHERE PlayerID = '000002'").arg(table));
+  }
+  Pair();
+  const PdfPages one = Pages("cards", {"--player", "ab0002"});
+  EXPECT_EQ(one.PageCount(), 1);
+  EXPECT_TRUE(one.Has("2.P2"));
+}
+
 TEST_F(CardCommandsTest, AClassWithAPacerPrintsHimToo) {
   MakeSingles(3);
   Pair(OddEntrant::Pacer);

@@ -198,7 +198,7 @@ TEST_F(ResultsCommandTest, RefusalsAndWrongUsage) {
   Enter(1);
   const Ended run = Results({"--text", Path("nowhere/a.txt")});
   EXPECT_EQ(run.code, exits::Refused);
-  EXPECT_TRUE(run.err.contains("No such file or directory")) << run.err.toStdString();
+  EXPECT_EQ(run.err, "Unable to open file. No such file or directory\n");
 }
 
 }  // namespace
