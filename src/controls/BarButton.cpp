@@ -98,6 +98,16 @@ void BarButton::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// The press brought the focus here, unless a row that would not be left has taken it back: then its
+// screen stays, too.
+void BarButton::mouseReleaseEvent(QMouseEvent* event) {
+  if (window()->focusWidget() == this) {
+    QAbstractButton::mouseReleaseEvent(event);
+  } else {
+    setDown(false);
+  }
+}
+
 void BarButton::enterEvent(QEnterEvent* event) {
   QAbstractButton::enterEvent(event);
   update();

@@ -21,6 +21,7 @@ class BarButton : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void nextCheckState() override {}  // the bar's owner decides, not the press
   void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;

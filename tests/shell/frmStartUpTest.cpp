@@ -15,10 +15,12 @@
 #include "app/Screens.h"
 #include "controls/BarButton.h"
 #include "controls/ButtonBar.h"
+#include "controls/GridEX.h"
 #include "shell/HelpDesk.h"
 #include "shell/Routes.h"
 #include "shell/StartUp.h"
 #include "shell/Store.h"
+#include "support/RecordsetPrinters.h"
 #include "support/ScreenBench.h"
 
 namespace tavrelin {
@@ -343,6 +345,25 @@ TEST_F(frmStartUpTest, AScreenThatIsAskedForBeforeItsTurnIsMadeAtOnce) {
   EXPECT_EQ(early.uctControls()->objectName(), "uctSettings");
   EXPECT_TRUE(early.uctControls()->isVisible());
   bench.Drive(window.get());
+}
+
+TEST_F(frmStartUpTest, ARowThatIsRefusedKeepsItsScreenUntilItIsMendedOrGivenUp) {
+  Open(AllScreens());
+  bench.Click("Players/Profile");
+  auto& roster = bench.Find<GridEX>("grdProfile");
+  bench.Type("Karen");
+  for (const char* button : {"Players/Stats", "Tournaments"}) {
+    roster.SetCol("FirstName");
+    roster.SetValue("LastName", "Ol\"son");
+    bench.Click(button);
+    EXPECT_EQ(Visible(), QStringList("uctProfile")) << button;
+    EXPECT_EQ(bench.Message(), "Double Quotes are not allowed in Last Name");
+    EXPECT_EQ(roster.Value("FirstName"), Value("Karen")) << "what was typed is still there";
+  }
+  bench.Press(Qt::Key_Escape);
+  EXPECT_FALSE(roster.DataChanged());
+  bench.Click("Players/Stats");
+  EXPECT_EQ(Visible(), QStringList("uctScores"));
 }
 
 TEST_F(frmStartUpTest, LooksItsPartInTheDark) {
