@@ -1,11 +1,18 @@
 #include "shell/Store.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
-#include <QLockFile>
 #include <QStandardPaths>
+#include <QThread>
 
 #include "basic/Error.h"
 #include "basic/WholeFile.h"
@@ -17,6 +24,7 @@ namespace {
 
 constexpr qsizetype LongestValue = 255;
 constexpr int LockWaitMilliseconds = 3000;
+constexpr int LockPauseMilliseconds = 5;
 
 struct Section {
   QString name;
@@ -121,6 +129,35 @@ void Put(Sections& sections, const QString& sectionName, const QString& name,
   sections[at].values.append({name, value});
 }
 
+/// Keeps other programs from writing the store meanwhile. It stands on the store's folder: there is
+/// nothing that a program killed meanwhile could leave behind.
+class StoreLock {
+ public:
+  explicit StoreLock(const QString& file)
+      : folder_(open(QFile::encodeName(QFileInfo(file).absolutePath()).constData(),
+                     O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    QDeadlineTimer deadline(LockWaitMilliseconds);
+    while (flock(folder_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+      isHeld_ = !deadline.hasExpired();
+      if (!isHeld_) return;
+      QThread::msleep(LockPauseMilliseconds);
+    }
+  }
+  ~StoreLock() {
+    if (folder_ >= 0) close(folder_);
+  }
+  StoreLock(const StoreLock&) = delete;
+  StoreLock& operator=(const StoreLock&) = delete;
+
+  /// False when another program did not let go. Folders that cannot be locked, as some over a
+  /// network, count as held.
+  bool IsHeld() const { return isHeld_; }
+
+ private:
+  int folder_;
+  bool isHeld_ = true;
+};
+
 bool WriteWhole(const QString& path, const QByteArray& bytes) {
   try {
     WriteWholeFile(path, bytes);
@@ -163,8 +200,8 @@ Store::Store(QString file) : file_(std::move(file)) {}
 
 bool Store::SaveRegistryString(const QString& section, const QString& name, const QString& value) {
   if (!QDir().mkpath(QFileInfo(file_).absolutePath())) return false;
-  QLockFile lock(file_ + QLatin1String(".lock"));
-  if (!lock.tryLock(LockWaitMilliseconds)) return false;
+  const StoreLock lock(file_);
+  if (!lock.IsHeld()) return false;
   Contents contents = Load(file_);
   if (!contents.IsKnown()) return false;
   Put(contents.sections, section, name, value);

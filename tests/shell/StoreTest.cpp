@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include "shell/StoredValues.h"
@@ -107,6 +108,18 @@ TEST_F(StoreTest, TwoProgramsOnOneStoreDoNotUndoEachOther) {
   store.SaveRegistryString("", "RecentTournament", "2501003");
   EXPECT_EQ(other.GetRegistryString("", "RecentTournament"), "2501003");
   EXPECT_EQ(store.GetRegistryString("", "RecentLeague"), "2501002");
+}
+
+TEST_F(StoreTest, WhileAnotherProgramWritesTheSaveWaitsAndIsRefusedInTheEnd) {
+  store.SaveRegistryString("", "ScoreCheck", "0");
+  QProcess other;
+  other.start("flock", {folder.filePath("config"), "sh", "-c", "echo held; read line"});
+  ASSERT_TRUE(other.waitForReadyRead());
+  EXPECT_FALSE(store.SaveRegistryString("", "ScoreCheck", "1"));
+  EXPECT_EQ(store.Get(stored::ScoreCheck), "0");
+  other.kill();
+  other.waitForFinished();
+  EXPECT_TRUE(store.SaveRegistryString("", "ScoreCheck", "1"));
 }
 
 TEST_F(StoreTest, NoFileButTheStoreItselfStaysBehind) {
