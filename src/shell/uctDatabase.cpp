@@ -135,12 +135,20 @@ void uctDatabase::Command1_Click() {
   txtPath_->setText(file);
 }
 
-void uctDatabase::cmdBackup_Click() {
+// A large file takes a second or two, in which nothing else is painted.
+void uctDatabase::SayNow(const QString& message) {
   around().person.SetBusy(true);
-  Event("BackUpClub", [this] {
+  Say(message);
+  stsInfo()->repaint();
+}
+
+void uctDatabase::cmdBackup_Click() {
+  SayNow("The club file is being backed up...");
+  const bool done = Event("BackUpClub", [this] {
     const QString made = BackUpClub(DatabaseInUse(), around().clock.Now());
     Say("Backed up as " + QDir::toNativeSeparators(made));
   });
+  if (!done) stsInfo()->ClearMessage();
   around().person.SetBusy(false);
   ShowBackups();
 }
@@ -150,12 +158,13 @@ void uctDatabase::cmdRestore_Click() {
   const QList<ClubBackup> backups = BackupsOf(file);
   const int chosen = around().person.ChooseBackup(file, backups);
   if (chosen < 0) return;
-  around().person.SetBusy(true);
-  Event("RestoreClub", [&] {
+  SayNow("The club file is being restored...");
+  const bool done = Event("RestoreClub", [&] {
     const QString kept = RestoreClub(file, backups[chosen].path, around().clock.Now());
     UpdateDatabaseInUse(around().showError, around().clock.Today());
     Say(RestoredText(backups[chosen], kept));
   });
+  if (!done) stsInfo()->ClearMessage();
   around().person.SetBusy(false);
   ShowBackups();
 }

@@ -36,6 +36,7 @@ class uctDatabase : public Screen {
   void cmdRestore_Click();
   void BackUpFileThatIsLeft(const QString& next);
   void ShowBackups();
+  void SayNow(const QString& message);
 
   QLineEdit* txtPath_;
   QPushButton* Command1_;
