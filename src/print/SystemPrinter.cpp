@@ -45,7 +45,7 @@ void RefuseStopped(const QPrinterInfo& device) {
 // Qt writes a job into a temporary file first and does not notice when that is cut short.
 void RefuseWithoutRoom(const Document& document, int copies) {
   const QStorageInfo disk(QDir::tempPath());
-  const qint64 needed = 2 * copies * PdfBytes(document).size();
+  const qint64 needed = qint64{2} * copies * PdfBytes(document).size();
   if (!disk.isValid() || disk.bytesAvailable() > needed) return;
   Refuse(QStringLiteral("There is no room in %1 to prepare the document. Nothing was printed.")
              .arg(QDir::toNativeSeparators(QDir::tempPath())));

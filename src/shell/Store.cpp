@@ -186,7 +186,7 @@ QString UsableFolder(const QString& path) {
 }
 
 QString PlatformFile() {
-  const QString named = qEnvironmentVariable("TAVRELIN_STORE");
+  QString named = qEnvironmentVariable("TAVRELIN_STORE");
   if (!named.isEmpty()) return named;
   return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
          QLatin1String("/Tavrelin/store.ini");
