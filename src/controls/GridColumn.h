@@ -65,7 +65,9 @@ struct GridColumn {
   /// The column's own name among the columns; empty means the name of its field. Needed where two
   /// columns stand on one field.
   QString key = {};
-  int width = 1005;  ///< twips at the 8-point font the widths were drawn with; 0 takes no room
+  /// Twips at the 8-point font the widths were drawn with; 0 takes no room. A column is never
+  /// narrower than its caption and what its picture writes.
+  int width = 1005;
   /// Place on the screen, from 1; 0 means its place in the table. Equal places keep table order.
   int position = 0;
   bool visible = true;
