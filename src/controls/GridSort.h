@@ -28,7 +28,8 @@ struct ColumnOrder {
 QString SortText(const Recordset& recordset, const QList<ColumnOrder>& keys);
 
 /// The positions of a recordset in the order to show, where a column sorts as number or date while
-/// its field is text, or by its shown text, so that the recordset's own sort cannot serve; empty otherwise.
+/// its field is text, or by its shown text, so that the recordset's own sort cannot serve; empty
+/// otherwise.
 std::vector<int> OrderBeyondFields(const Recordset& recordset, const QList<ColumnOrder>& keys);
 
 }  // namespace tavrelin
