@@ -1,7 +1,7 @@
 #include "play/BoxColumns.h"
 
+#include "basic/ScoreTexts.h"
 #include "play/BoxScores.h"
-#include "play/Figures.h"
 
 namespace tavrelin {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <QTextStream>
 
-#include "app/OptionReader.h"
-#include "app/PdfOption.h"
 #include "basic/Error.h"
+#include "command/OptionReader.h"
+#include "command/PdfOption.h"
 #include "data/Connection.h"
 #include "data/SystemSettings.h"
 #include "play/CardJob.h"

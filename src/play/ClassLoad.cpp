@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "basic/ScoreTexts.h"
 #include "data/Connection.h"
-#include "play/Figures.h"
 #include "play/PlayFormat.h"
 
 namespace tavrelin {

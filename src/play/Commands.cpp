@@ -2,8 +2,8 @@
 
 #include <QTextStream>
 
-#include "app/OptionReader.h"
 #include "basic/Error.h"
+#include "command/OptionReader.h"
 #include "data/Connection.h"
 #include "play/Pairing.h"
 #include "play/PlayFormat.h"

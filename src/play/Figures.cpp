@@ -1,26 +1,14 @@
 #include "play/Figures.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "basic/Conversions.h"
-#include "basic/Picture.h"
 #include "data/Recordset.h"
 
 namespace tavrelin {
 
-QString HalfWinText(double games) {
-  const bool whole = games == std::floor(games);
-  return Format(games, whole ? QStringLiteral("#0") : QStringLiteral("#0.0"));
-}
-
 double RingerPercentage(double ringers, double shoes) {
   return shoes > 0 ? ringers * 100 / shoes : 0;
-}
-
-QString OverAverageText(double overAverage) {
-  const bool below = overAverage < 0;
-  return Format(std::abs(overAverage), below ? QStringLiteral("#0.00-") : QStringLiteral("#0.00"));
 }
 
 int HandicapFigure(double best, double average, int shoes, double percent, int throwers) {

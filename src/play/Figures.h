@@ -6,15 +6,8 @@ namespace tavrelin {
 
 class Recordset;
 
-/// Wins or losses as every sheet and export shows them: "3" when whole, "3.5" when a tied game left
-/// half a win.
-QString HalfWinText(double games);
-
 /// Ringers of 100 shoes; 0 when no shoe was pitched. Unrounded.
 double RingerPercentage(double ringers, double shoes);
-
-/// A figure over average with two decimals and its minus sign behind it: "1.25", "1.25-".
-QString OverAverageText(double overAverage);
 
 /// Handicap points a game: what an entrant of average `average` gets against the strongest of the
 /// class. A ringer counts three points, so each percent below `best` is worth three hundredths of a

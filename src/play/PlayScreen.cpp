@@ -8,13 +8,13 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
+#include "basic/ScoreTexts.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "play/CardFrame.h"
 #include "play/CheckGame.h"
 #include "play/CourtBox.h"
 #include "play/ExportFrame.h"
-#include "play/Figures.h"
 #include "play/Pairing.h"
 #include "play/PlayColumns.h"
 #include "play/PlayFormat.h"

@@ -3,8 +3,8 @@
 #include <optional>
 #include <QTextStream>
 
-#include "app/OptionReader.h"
-#include "app/PdfOption.h"
+#include "command/OptionReader.h"
+#include "command/PdfOption.h"
 #include "data/Connection.h"
 #include "data/SystemSettings.h"
 #include "play/ClassResults.h"

@@ -5,10 +5,10 @@
 
 #include "basic/Error.h"
 #include "basic/Picture.h"
+#include "basic/ScoreTexts.h"
 #include "basic/TextFile.h"
 #include "play/BoxColumns.h"
 #include "play/ClassResults.h"
-#include "play/Figures.h"
 #include "play/StandingColumns.h"
 
 namespace tavrelin {

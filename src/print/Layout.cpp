@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "basic/Picture.h"
-#include "play/Figures.h"
+#include "basic/ScoreTexts.h"
 #include "print/OutputTarget.h"
 
 namespace tavrelin {

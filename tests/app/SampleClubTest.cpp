@@ -10,6 +10,7 @@
 #include "app/Dice.h"
 #include "app/PitchedGame.h"
 #include "basic/Error.h"
+#include "support/CommandAnswer.h"
 #include "support/PlainDatabase.h"
 #include "support/QtPrinters.h"
 
@@ -223,15 +224,9 @@ TEST_F(SampleClubTest, EveryPlayerOfThePastTournamentsHasOneResult) {
 }
 
 TEST_F(SampleClubTest, IsInOrder) {
-  QString out;
-  QString err;
-  QTextStream outStream(&out);
-  QTextStream errStream(&err);
-  EXPECT_EQ(RunCommandLine(ClubCommands(), {"check", folder->filePath("sample.mdb")}, outStream,
-                           errStream),
-            0)
-      << out.toStdString();
-  EXPECT_FALSE(out.contains("orphans"));
+  const CommandAnswer check = Ask(ClubCommands(), {"check", folder->filePath("sample.mdb")});
+  EXPECT_EQ(check.code, exits::Done) << check.out.toStdString();
+  EXPECT_FALSE(check.out.contains("orphans"));
 }
 
 TEST_F(SampleClubTest, TheSameSeedGivesTheSameFileAndAnotherSeedAnotherClub) {

@@ -2,31 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QTextStream>
-
 #include "play/ClassBench.h"
+#include "support/CommandAnswer.h"
 
 namespace tavrelin {
 namespace {
 
-/// What a run of tavrelinctl left behind.
-struct Ran {
-  int code;
-  QString out;
-  QString err;
-};
-
 class PlayCommandsTest : public ClassBench {
  protected:
-  Ran Run(const QString& command, const QStringList& more) {
-    Ran ran;
-    QTextStream out(&ran.out);
-    QTextStream err(&ran.err);
+  CommandAnswer Run(const QString& command, const QStringList& more) {
     connection_.Close();
-    ran.code =
-        RunCommandLine(PlayCommands(), QStringList{command, path_, Sanction, "A"} + more, out, err);
-    out.flush();
-    err.flush();
+    CommandAnswer ran = Ask(PlayCommands(), QStringList{command, path_, Sanction, "A"} + more);
     connection_.Open("DBQ=" + path_);
     return ran;
   }
@@ -40,7 +26,7 @@ class PlayCommandsTest : public ClassBench {
 
 TEST_F(PlayCommandsTest, PairStoresTheRoundRobin) {
   MakeSingles(3);
-  const Ran ran = Run("pair", {"--bye", "--rounds", "2", "--courts", "N1,"});
+  const CommandAnswer ran = Run("pair", {"--bye", "--rounds", "2", "--courts", "N1,"});
   EXPECT_EQ(ran.code, exits::Done) << ran.err.toStdString();
   EXPECT_EQ(ran.err, "");
   EXPECT_EQ(Games(), (QStringList{"1  N1 2 3", "2  N1 1 3", "3  N1 1 2", "4  N1 2 3", "5  N1 1 3",
@@ -49,7 +35,7 @@ TEST_F(PlayCommandsTest, PairStoresTheRoundRobin) {
 
 TEST_F(PlayCommandsTest, PairAdvisesToBlankTheLastCourtAndGoesOn) {
   MakeSingles(3);
-  const Ran ran = Run("pair", {"--bye"});
+  const CommandAnswer ran = Run("pair", {"--bye"});
   EXPECT_EQ(ran.code, exits::Done);
   EXPECT_EQ(ran.err, "Blank out last court to optimize court use\n");
   EXPECT_EQ(Games().size(), 3);
@@ -63,7 +49,7 @@ TEST_F(PlayCommandsTest, PairRefusesInTheWordsOfTheScreen) {
       {{"--pacer", "--courts", "1"}, "The class plays on 2 courts, but 1 were given\n"},
   };
   for (const auto& [options, message] : cases) {
-    const Ran ran = Run("pair", options);
+    const CommandAnswer ran = Run("pair", options);
     EXPECT_EQ(ran.code, exits::Refused);
     EXPECT_EQ(ran.err.toStdString(), message);
     EXPECT_TRUE(Games().isEmpty());
@@ -76,7 +62,7 @@ TEST_F(PlayCommandsTest, OptionsThatMakeNoSenseShowTheUsage) {
                                {"--rounds", "5"}, {"--bye", "--pacer"}, {"--court", "1"},
                                {"--courts"}};
   for (const QStringList& options : cases) {
-    const Ran ran = Run("pair", options);
+    const CommandAnswer ran = Run("pair", options);
     EXPECT_EQ(ran.code, exits::WrongUsage) << options.join(u' ').toStdString();
     EXPECT_TRUE(ran.err.startsWith("Usage: tavrelinctl pair"));
   }
@@ -85,7 +71,7 @@ TEST_F(PlayCommandsTest, OptionsThatMakeNoSenseShowTheUsage) {
 }
 
 TEST_F(PlayCommandsTest, AClassThatIsNotThereIsRefused) {
-  const Ran ran = Run("standings", {});
+  const CommandAnswer ran = Run("standings", {});
   EXPECT_EQ(ran.code, exits::Refused);
   EXPECT_EQ(ran.err, "Tournament 2601007 has no class \"A\"\n");
 }
@@ -94,7 +80,7 @@ TEST_F(PlayCommandsTest, StandingsPrintUnroundedFiguresAndWriteNothing) {
   MakeSingles(2);
   Store({1, 2, {30, 20}, {{20}, {5}}, 60});
   Store({1, 2, {20, 20}, {{0}, {5}}, 60});
-  const Ran ran = Run("standings", {});
+  const CommandAnswer ran = Run("standings", {});
   EXPECT_EQ(ran.code, exits::Done) << ran.err.toStdString();
   const QStringList lines = ran.out.split('\n');
   EXPECT_EQ(lines[0].split('\t').join(u' '),

@@ -110,18 +110,6 @@ TEST(Rounds, ATextThatAsksForNoneMeansOne) {
   for (const auto& [text, rounds] : cases) EXPECT_EQ(RoundsOf(text), rounds) << text;
 }
 
-TEST(Figures, HalfWinsShowOneDecimalAndWholeOnesNone) {
-  const QPair<double, const char*> cases[] = {
-      {0, "0"}, {3, "3"}, {3.5, "3.5"}, {0.5, "0.5"}, {12, "12"}};
-  for (const auto& [games, text] : cases) EXPECT_EQ(HalfWinText(games).toStdString(), text);
-}
-
-TEST(Figures, OverAverageCarriesItsMinusBehind) {
-  EXPECT_EQ(OverAverageText(-1.25), "1.25-");
-  EXPECT_EQ(OverAverageText(1.25), "1.25");
-  EXPECT_EQ(OverAverageText(0), "0.00");
-}
-
 TEST(Figures, HandicapGivesThreeHundredthsAShoeForEachPercent) {
   const struct {
     double best, average;

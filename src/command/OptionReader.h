@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "app/CommandLine.h"
+#include "command/CommandLine.h"
 
 namespace tavrelin {
 

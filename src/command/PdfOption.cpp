@@ -1,4 +1,4 @@
-#include "app/PdfOption.h"
+#include "command/PdfOption.h"
 
 #include <QIODevice>
 #include <QTextStream>
