@@ -11,7 +11,9 @@ namespace tavrelin {
 /// The place of a field by its name, case disregarded; -1 when there is none.
 inline int IndexOfField(const QList<Field>& fields, const QString& name) {
   for (int i = 0; i < fields.size(); ++i) {
-    if (fields[i].name.compare(name, Qt::CaseInsensitive) == 0) return i;
+    const QString& own = fields[i].name;
+    // Lengths first: this stands in the inner loop of every rule.
+    if (own.size() == name.size() && own.compare(name, Qt::CaseInsensitive) == 0) return i;
   }
   return -1;
 }

@@ -48,7 +48,7 @@ const TableColumn* Origin(Catalogue& catalogue, sqlite3_stmt* statement, int col
   const QList<TableColumn>& columns = catalogue.Columns(QString::fromUtf8(table));
   const QString wanted = QString::fromUtf8(name);
   const auto found = std::find_if(columns.begin(), columns.end(), [&wanted](const TableColumn& c) {
-    return c.name.compare(wanted, Qt::CaseInsensitive) == 0;
+    return c.name.size() == wanted.size() && c.name.compare(wanted, Qt::CaseInsensitive) == 0;
   });
   return found == columns.end() ? nullptr : &*found;
 }

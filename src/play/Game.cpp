@@ -40,7 +40,10 @@ GameSide ReadSide(const Row& row, const SideIndex& index) {
   side.number = row.Whole(index.number);
   side.points = row.Whole(index.points);
   side.forfeit = row.At(index.forfeit).ToYesNo();
-  for (const int field : index.throwers) side.throwers << row.At(field).Trimmed();
+  side.throwers.reserve(index.throwers.size());
+  side.ringers.reserve(index.ringers.size());
+  for (const int field : index.throwers)
+    side.throwers << (field == index.id ? side.id : row.At(field).Trimmed());
   for (const int field : index.ringers) side.ringers << row.Whole(field);
   return side;
 }
