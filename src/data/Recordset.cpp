@@ -9,6 +9,18 @@
 
 namespace tavrelin {
 
+namespace {
+
+/// The stored row at a position, counted from 1.
+int RowIn(const std::vector<int>& order, int position) {
+  if (position < 1 || static_cast<size_t>(position) > order.size()) {
+    throw Error(errors::RecordState, QStringLiteral("There is no record %1.").arg(position));
+  }
+  return order[static_cast<size_t>(position) - 1];
+}
+
+}  // namespace
+
 Recordset::Recordset() : rows_(std::make_shared<Rows>()), cursor_(std::make_unique<Cursor>()) {}
 Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
@@ -174,19 +186,17 @@ Value Recordset::At(int field) const {
   return rows_->store.At(here.Row(), field, rows_->fields[field].type);
 }
 
+// The rules walk their rows by this: the cursor is brought up to date once a cell.
 Value Recordset::CellAt(int position, int field) const {
   CheckField(field);
   const Cursor& here = Here();
   if (here.editing && !here.adding && position == here.position) return At(field);
-  return rows_->store.At(RowAt(position), field, rows_->fields[field].type);
+  const int row = RowIn(here.order, position);
+  return rows_->store.At(row, field, rows_->fields[field].type);
 }
 
 int Recordset::RowAt(int position) const {
-  const Cursor& here = Here();
-  if (position < 1 || position > here.Count()) {
-    throw Error(errors::RecordState, QStringLiteral("There is no record %1.").arg(position));
-  }
-  return here.order[static_cast<size_t>(position) - 1];
+  return RowIn(Here().order, position);
 }
 
 Recordset::Bookmark Recordset::BookmarkAt(int position) const {
