@@ -22,9 +22,9 @@ QIcon CalendarIcon(const QColor& ink, int side) {
   painter.setPen(QPen(ink, unit * 1.4));
   painter.drawRect(QRectF(2 * unit, 3 * unit, 12 * unit, 11 * unit));
   painter.fillRect(QRectF(2 * unit, 3 * unit, 12 * unit, 3 * unit), ink);
-  for (int i = 0; i < 6; ++i) {
-    painter.fillRect(QRectF((4 + 3 * (i % 3)) * unit, (8 + 3 * (i / 3)) * unit, 2 * unit, 2 * unit),
-                     ink);
+  for (const double y : {8.0, 11.0}) {
+    for (const double x : {4.0, 7.0, 10.0})
+      painter.fillRect(QRectF(x * unit, y * unit, 2 * unit, 2 * unit), ink);
   }
   return picture;
 }
