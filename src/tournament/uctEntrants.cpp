@@ -112,7 +112,7 @@ EntrySideKind SinglesKind() {
   kind.searchField = "LastName";
   kind.playFormat = "S";
   kind.listEmptyText = "No players on the roster yet. Add them under Players / Profile.";
-  kind.entriesEmptyText = "Choose a tournament, then press Enter on a player to enter him.";
+  kind.entriesEmptyText = "Choose a tournament, then press Enter on a player to enter that player.";
   return kind;
 }
 
