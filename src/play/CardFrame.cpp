@@ -13,6 +13,7 @@
 #include "play/CardJob.h"
 #include "play/PlayFormat.h"
 #include "shell/Labels.h"
+#include "shell/NewControl.h"
 
 namespace tavrelin {
 
@@ -41,14 +42,10 @@ CardFrame::CardFrame(const PlayFormat& format, QWidget* parent)
 
 void CardFrame::BuildControls(const PlayFormat& format) {
   const bool teams = format.throwers.size() > 1;
-  optFront_ = new QRadioButton("Front", this);
-  optFront_->setObjectName("optFront");
-  optBack_ = new QRadioButton("Back", this);
-  optBack_->setObjectName("optBack");
-  if (format.hasTwoUpCards) {
-    chkRRWorksheet_ = new QCheckBox("Round Robin Worksheet", this);
-    chkRRWorksheet_->setObjectName("chkRRWorksheet");
-  }
+  optFront_ = NewControl<QRadioButton>("optFront", "Front", this);
+  optBack_ = NewControl<QRadioButton>("optBack", "Back", this);
+  if (format.hasTwoUpCards)
+    chkRRWorksheet_ = NewControl<QCheckBox>("chkRRWorksheet", "Round Robin Worksheet", this);
   txtFrom_ = NewGameBox("txtFrom", "First game", this);
   txtTo_ = NewGameBox("txtTo", "Last game", this);
   entrants_ = new QComboBox(this);
@@ -56,8 +53,7 @@ void CardFrame::BuildControls(const PlayFormat& format) {
   entrants_->setAccessibleName(teams ? "Teams" : "Players");
   entrants_->setMinimumContentsLength(18);
   entrants_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  cmdPrintPair_ = new QPushButton("Print ", this);
-  cmdPrintPair_->setObjectName("cmdPrintPair");
+  cmdPrintPair_ = NewControl<QPushButton>("cmdPrintPair", "Print ", this);
 }
 
 void CardFrame::LayOut() {

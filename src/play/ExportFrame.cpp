@@ -7,6 +7,7 @@
 
 #include "play/PlayFormat.h"
 #include "shell/Labels.h"
+#include "shell/NewControl.h"
 
 namespace tavrelin {
 
@@ -27,8 +28,8 @@ ExportFrame::ExportFrame(const PlayFormat& format, QWidget* parent)
       txtFile_(NewBox("txtFile", "File", this)) {
   setObjectName("Frame4");
   const bool doubles = format.throwers.size() > 1;
-  auto* cmdExport = new QPushButton(doubles ? "Export Results" : "Export", this);
-  cmdExport->setObjectName("cmdExport");
+  auto* cmdExport =
+      NewControl<QPushButton>("cmdExport", doubles ? "Export Results" : "Export", this);
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 8, 16, 8);
   grid->setSpacing(8);

@@ -18,18 +18,12 @@
 #include "play/ResultsFrame.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
+#include "shell/NewControl.h"
 #include "tournament/TournamentBox.h"
 
 namespace tavrelin {
 
 namespace {
-
-template <class Control>
-Control* NewControl(const QString& name, const QString& caption, QWidget* parent) {
-  auto* control = new Control(caption, parent);
-  control->setObjectName(name);
-  return control;
-}
 
 QComboBox* NewCombo(const QString& name, const QString& spoken, int characters, QWidget* parent) {
   auto* combo = new QComboBox(parent);

@@ -10,17 +10,11 @@
 #include "play/ClassResults.h"
 #include "play/PlayFormat.h"
 #include "shell/Labels.h"
+#include "shell/NewControl.h"
 
 namespace tavrelin {
 
 namespace {
-
-template <class Button>
-Button* NewButton(const QString& name, const QString& caption, QWidget* parent) {
-  auto* button = new Button(caption, parent);
-  button->setObjectName(name);
-  return button;
-}
 
 QHBoxLayout* NewRow(const QWidgetList& parts, int spacing) {
   auto* row = new QHBoxLayout;
@@ -44,18 +38,18 @@ ResultsFrame::ResultsFrame(const PlayFormat& format, QWidget* parent)
 }
 
 void ResultsFrame::BuildControls(bool singles) {
-  chkStandings_ = NewButton<QCheckBox>("chkStandings", "Standings", this);
-  chkBoxScores_ = NewButton<QCheckBox>("chkBoxScores", "Box Scores", this);
+  chkStandings_ = NewControl<QCheckBox>("chkStandings", "Standings", this);
+  chkBoxScores_ = NewControl<QCheckBox>("chkBoxScores", "Box Scores", this);
   if (singles) {
-    chkBrief_ = NewButton<QCheckBox>("chkBrief", "Brief", this);
+    chkBrief_ = NewControl<QCheckBox>("chkBrief", "Brief", this);
     txtCopies_ = new QLineEdit("1", this);
     txtCopies_->setObjectName("txtCopies");
     txtCopies_->setAccessibleName("Copies");
     txtCopies_->setMaxLength(2);
     txtCopies_->setMaximumWidth(txtCopies_->fontMetrics().averageCharWidth() * 7);
   }
-  cmdPrintResults_ = NewButton<QPushButton>("cmdPrintResults", "Print ", this);
-  cmdPreviewResults_ = NewButton<QPushButton>("cmdPreviewResults", "Preview", this);
+  cmdPrintResults_ = NewControl<QPushButton>("cmdPrintResults", "Print ", this);
+  cmdPreviewResults_ = NewControl<QPushButton>("cmdPreviewResults", "Preview", this);
 }
 
 void ResultsFrame::LayOut() {
