@@ -9,6 +9,7 @@
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "data/Schema.h"
+#include "support/BuiltProgram.h"
 #include "support/CommandAnswer.h"
 #include "support/PlainDatabase.h"
 #include "support/QtPrinters.h"
@@ -141,7 +142,7 @@ TEST_F(ClubCommandsTest, CheckWritesNothingAndWorksBesideAnOpenWindow) {
   Connection window;
   window.Open(FileConnectString(file));
   QProcess process;
-  process.start(QStringLiteral(TAVRELIN_BINARY_DIR "/src/app/tavrelinctl"), {"check", file});
+  process.start(BuiltProgram("tavrelinctl"), {"check", file});
   ASSERT_TRUE(process.waitForFinished(30000));
   EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
   EXPECT_TRUE(process.readAllStandardOutput().startsWith("Check\tResult\tTable\tFinding\n"));
@@ -162,7 +163,7 @@ TEST_F(ClubCommandsTest, BackupWritesThePathOfTheCopyItMadeBesideAnOpenWindow) {
 
 TEST(TavrelinctlTest, ExitCodesReachTheShell) {
   const QTemporaryDir folder;
-  const QString program = QStringLiteral(TAVRELIN_BINARY_DIR "/src/app/tavrelinctl");
+  const QString program = BuiltProgram("tavrelinctl");
   EXPECT_EQ(QProcess::execute(program, {"new", folder.filePath("Éclair.mdb")}), 0);
   EXPECT_TRUE(QFile::exists(folder.filePath("Éclair.mdb")));
   QProcess process;

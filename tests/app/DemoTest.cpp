@@ -6,16 +6,15 @@
 
 #include "data/Connection.h"
 #include "data/Recordset.h"
+#include "support/BuiltProgram.h"
 #include "support/QtPrinters.h"
 
 namespace tavrelin {
 namespace {
 
-const QString Programs = QStringLiteral(TAVRELIN_BINARY_DIR "/src/app/");
-
 QString RunProgram(const QString& program, const QStringList& arguments) {
   QProcess process;
-  process.start(Programs + program, arguments);
+  process.start(BuiltProgram(program), arguments);
   EXPECT_TRUE(process.waitForFinished(120'000));
   EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
   return QString::fromUtf8(process.readAllStandardOutput());

@@ -10,6 +10,7 @@
 #include "play/ClassBench.h"
 #include "play/Pairing.h"
 #include "play/PdfSpots.h"
+#include "support/BuiltProgram.h"
 
 namespace tavrelin {
 namespace {
@@ -152,7 +153,7 @@ TEST_F(CardCommandsTest, TheProgramWritesTheStyleAskedForAndSaysNothing) {
   MakeSingles(2);
   Pair();
   QProcess program;
-  program.start(QStringLiteral(TAVRELIN_BINARY_DIR "/src/app/tavrelinctl"),
+  program.start(BuiltProgram("tavrelinctl"),
                 {"cards", path_, Sanction, "A", "--style", "2", "--pdf", "-"});
   ASSERT_TRUE(program.waitForFinished(60000));
   EXPECT_EQ(program.exitCode(), exits::Done);

@@ -5,6 +5,7 @@
 #include "play/ClassBench.h"
 #include "play/Ranking.h"
 #include "play/RankOverride.h"
+#include "support/BuiltProgram.h"
 #include "support/FaultBench.h"
 
 namespace tavrelin {
@@ -92,8 +93,8 @@ class KilledTest : public ClassBench {
 
 TEST_F(KilledTest, APairingIsThereWholeOrNotAtAll) {
   MakeSingles(9);
-  ExpectWholeOrNothing({TAVRELIN_BINARY_DIR "/src/app/tavrelinctl", "pair", Copy(), "26-01-007",
-                        "A", "--pacer", "--rounds", "4"});
+  ExpectWholeOrNothing(
+      {BuiltProgram("tavrelinctl"), "pair", Copy(), "26-01-007", "A", "--pacer", "--rounds", "4"});
 }
 
 TEST_F(KilledTest, ARankingIsThereWholeOrNotAtAll) {
@@ -109,8 +110,8 @@ TEST_F(KilledTest, ARankingIsThereWholeOrNotAtAll) {
 
 TEST_F(KilledTest, APairingOfTeamsIsThereWholeOrNotAtAll) {
   MakeDoubles(9);
-  ExpectWholeOrNothing({TAVRELIN_BINARY_DIR "/src/app/tavrelinctl", "pair", Copy(), "26-01-007",
-                        "A", "--pacer", "--rounds", "4"});
+  ExpectWholeOrNothing(
+      {BuiltProgram("tavrelinctl"), "pair", Copy(), "26-01-007", "A", "--pacer", "--rounds", "4"});
 }
 
 TEST_F(KilledTest, ARankingOfTeamsIsThereWholeOrNotAtAll) {
