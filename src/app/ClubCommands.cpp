@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-#include "app/SampleClub.h"
 #include "basic/PlatformPath.h"
 #include "data/Backup.h"
 #include "data/ClubCheck.h"
@@ -56,11 +55,6 @@ int BackUp(const QStringList& arguments, QTextStream& out, QTextStream&) {
   return exits::Done;
 }
 
-int Sample(const QStringList& arguments, QTextStream&, QTextStream&) {
-  MakeSampleClub(arguments[0]);
-  return exits::Done;
-}
-
 }  // namespace
 
 QList<Command> ClubCommands() {
@@ -74,9 +68,6 @@ QList<Command> ClubCommands() {
        QStringLiteral("Copies a club file, open or not, to the Backups folder beside it and writes "
                       "the copy's path; the last ten are kept."),
        1, 1, BackUp},
-      {QStringLiteral("sample"), QStringLiteral("sample FILE"),
-       QStringLiteral("Makes a club file with invented players and tournaments to try things on."),
-       1, 1, Sample},
   };
 }
 

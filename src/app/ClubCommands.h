@@ -4,7 +4,7 @@
 
 namespace tavrelin {
 
-/// Commands about the club's file as a whole: new, check, sample.
+/// Commands about the club's file as a whole: new, check, backup.
 QList<Command> ClubCommands();
 
 }  // namespace tavrelin

@@ -8,10 +8,10 @@
 
 #include "app/DemoDesk.h"
 #include "app/DemoHands.h"
-#include "app/Dice.h"
-#include "app/PitchedGame.h"
 #include "app/Screens.h"
 #include "controls/GridEX.h"
+#include "sample/Dice.h"
+#include "sample/PitchedGame.h"
 #include "shell/Application.h"
 #include "shell/Desktop.h"
 #include "shell/frmAbout.h"

@@ -7,6 +7,7 @@
 #include "play/Commands.h"
 #include "play/ResultsCommand.h"
 #include "players/Commands.h"
+#include "sample/Commands.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ int main(int argc, char** argv) {
       tavrelin::ClubCommands() + tavrelin::PlayCommands() + tavrelin::CardCommands();
   commands << tavrelin::ResultsCommand();
   commands += tavrelin::PlayerCommands();
+  commands += tavrelin::SampleCommands();
   const int code = tavrelin::RunCommandLine(commands, arguments, out, err);
   out.flush();
   if (out.status() == QTextStream::Ok) return code;

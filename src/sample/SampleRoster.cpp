@@ -1,4 +1,4 @@
-#include "app/SampleRoster.h"
+#include "sample/SampleRoster.h"
 
 #include <algorithm>
 #include <array>
@@ -6,11 +6,11 @@
 #include <QDate>
 #include <QSet>
 
-#include "app/Dice.h"
-#include "app/SampleClub.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "players/AllocatePlayerID.h"
+#include "sample/Dice.h"
+#include "sample/SampleClub.h"
 
 namespace tavrelin {
 namespace {

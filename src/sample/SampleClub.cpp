@@ -1,17 +1,17 @@
-#include "app/SampleClub.h"
+#include "sample/SampleClub.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 
-#include "app/Dice.h"
-#include "app/SampleRoster.h"
-#include "app/SampleTournaments.h"
 #include "basic/PlatformPath.h"
 #include "data/Connection.h"
 #include "data/NewFile.h"
 #include "data/Recordset.h"
 #include "data/Schema.h"
+#include "sample/Dice.h"
+#include "sample/SampleRoster.h"
+#include "sample/SampleTournaments.h"
 
 namespace tavrelin {
 namespace {

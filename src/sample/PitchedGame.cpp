@@ -1,8 +1,8 @@
-#include "app/PitchedGame.h"
+#include "sample/PitchedGame.h"
 
 #include <algorithm>
 
-#include "app/Dice.h"
+#include "sample/Dice.h"
 
 namespace tavrelin {
 namespace {

@@ -1,4 +1,4 @@
-#include "app/SampleClub.h"
+#include "sample/SampleClub.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <QTemporaryDir>
 
 #include "app/ClubCommands.h"
-#include "app/Dice.h"
-#include "app/PitchedGame.h"
 #include "basic/Error.h"
+#include "sample/Dice.h"
+#include "sample/PitchedGame.h"
 #include "support/CommandAnswer.h"
 #include "support/PlainDatabase.h"
 #include "support/QtPrinters.h"

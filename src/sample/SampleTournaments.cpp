@@ -1,17 +1,17 @@
-#include "app/SampleTournaments.h"
+#include "sample/SampleTournaments.h"
 
 #include <QHash>
 #include <QSet>
 
-#include "app/Dice.h"
-#include "app/PitchedGame.h"
-#include "app/SampleRoster.h"
 #include "basic/Error.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "play/ClassLoad.h"
 #include "play/PlayFormat.h"
 #include "play/Ranking.h"
+#include "sample/Dice.h"
+#include "sample/PitchedGame.h"
+#include "sample/SampleRoster.h"
 #include "tournament/Entries.h"
 
 namespace tavrelin {
