@@ -53,14 +53,30 @@ QString BackupStem(const QString& file) {
          QLatin1Char('.');
 }
 
-/// When the backup of that name was made; not valid when it is none of this file's.
-QDateTime MomentOf(const QString& name, const QString& file) {
+/// Reads the name of a backup; `made` is not valid when it is none of this file's.
+ClubBackup ReadName(const QFileInfo& found, const QString& file) {
   const QRegularExpression pattern(
-      QStringLiteral("^%1\\.(\\d{4}-\\d\\d-\\d\\d_\\d\\d-\\d\\d-\\d\\d)(-\\d+)?%2$")
+      QStringLiteral("^%1\\.(?:before-([a-z-]+)\\.)?(\\d{4}-\\d\\d-\\d\\d_\\d\\d-\\d\\d-\\d\\d)"
+                     "(-\\d+)?%2$")
           .arg(QRegularExpression::escape(QFileInfo(file).completeBaseName()),
                QRegularExpression::escape(EndingOf(file))));
-  const QRegularExpressionMatch match = pattern.match(name);
-  return match.hasMatch() ? QDateTime::fromString(match.captured(1), Moment) : QDateTime();
+  const QRegularExpressionMatch match = pattern.match(found.fileName());
+  if (!match.hasMatch()) return {};
+  return {found.absoluteFilePath(), QDateTime::fromString(match.captured(2), Moment), found.size(),
+          match.captured(1).replace(u'-', u' ')};
+}
+
+QString NewDeedName(const QString& file, const QString& deed, const QDateTime& now) {
+  const QString words = QString(deed).replace(u' ', u'-');
+  return FreeName(BackupStem(file) + QStringLiteral("before-%1.").arg(words) + now.toString(Moment),
+                  EndingOf(file));
+}
+
+void CopyPresentState(const QString& club, const QString& path) {
+  Connection snapshot;
+  snapshot.OpenSnapshot(ConnectStringOfFile(club));
+  CopyClubFile(snapshot.Handle(), path);
+  RemoveLeftovers(club, BackupFolder(club));
 }
 
 bool IsNewer(const ClubBackup& one, const ClubBackup& other) {
@@ -127,7 +143,8 @@ QString NewDamagedName(const QString& file, const QDateTime& now) {
 // One that cannot be removed is tried again with the next backup.
 void RemoveOldBackups(const QString& file, const QString& made) {
   QList<ClubBackup> backups = BackupsOf(file);
-  backups.removeIf([&made](const ClubBackup& backup) { return backup.path == made; });
+  backups.removeIf(
+      [&made](const ClubBackup& backup) { return backup.path == made || !backup.deed.isEmpty(); });
   const int kept = made.isEmpty() ? BackupsKept : BackupsKept - 1;
   for (qsizetype i = kept; i < backups.size(); ++i) QFile::remove(backups[i].path);
 }
@@ -136,8 +153,8 @@ QList<ClubBackup> BackupsOf(const QString& file) {
   const QString club = RealPath(file);
   QList<ClubBackup> backups;
   for (const QFileInfo& found : QDir(BackupFolder(club)).entryInfoList(QDir::Files)) {
-    const QDateTime made = MomentOf(found.fileName(), club);
-    if (made.isValid()) backups.append({found.absoluteFilePath(), made, found.size()});
+    const ClubBackup backup = ReadName(found, club);
+    if (backup.made.isValid()) backups.append(backup);
   }
   std::sort(backups.begin(), backups.end(), IsNewer);
   return backups;
@@ -145,12 +162,16 @@ QList<ClubBackup> BackupsOf(const QString& file) {
 
 QString BackUpClub(const QString& file, const QDateTime& now) {
   const QString club = RealPath(file);
-  Connection snapshot;
-  snapshot.OpenSnapshot(ConnectStringOfFile(club));
   const QString made = NewBackupName(club, now);
-  CopyClubFile(snapshot.Handle(), made);
-  RemoveLeftovers(club, BackupFolder(club));
+  CopyPresentState(club, made);
   RemoveOldBackups(club, made);
+  return made;
+}
+
+QString BackUpBefore(const QString& deed, const QString& file, const QDateTime& now) {
+  const QString club = RealPath(file);
+  const QString made = NewDeedName(club, deed, now);
+  CopyPresentState(club, made);
   return made;
 }
 

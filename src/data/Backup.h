@@ -27,11 +27,12 @@ QString CopyBeforeUpgrade(sqlite3* from, const QString& file, const QDate& today
 /// A backup in the folder "Backups" beside a club's file.
 struct ClubBackup {
   QString path;
-  QDateTime made;   ///< local time, as its name tells it
-  qint64 size = 0;  ///< bytes
+  QDateTime made;     ///< local time, as its name tells it
+  qint64 size = 0;    ///< bytes
+  QString deed = {};  ///< what it was made before ("archiving scores"); empty for a plain backup
 };
 
-/// How many backups of one club's file are kept.
+/// How many plain backups of one club's file are kept.
 inline constexpr int BackupsKept = 10;
 
 /// The backups of a club's file, the newest first. The file itself need not be there.
@@ -40,6 +41,12 @@ QList<ClubBackup> BackupsOf(const QString& file);
 /// Makes a backup: "Backups/Tavrelin.2026-11-21_14-05-09.mdb" beside the file, which may be in use.
 /// Once it is verified and in its place, the oldest beyond the last ten go. Returns its path.
 QString BackUpClub(const QString& file, const QDateTime& now);
+
+/// Makes the backup that a deed begins with which removes many rows, named after the deed:
+/// "Backups/Tavrelin.before-archiving-scores.2026-11-21_14-05-09.mdb" for "archiving scores" (small
+/// letters and blanks). It lies outside the ten: no later backup takes it away. Returns its path.
+/// Throws Error when it cannot be made and verified; the deed must not be done then.
+QString BackUpBefore(const QString& deed, const QString& file, const QDateTime& now);
 
 /// Puts a backup in the place of the club's file, in one step: at every moment the place holds the
 /// old file or the restored one, whole. What it replaces is backed up first; a file too damaged for

@@ -82,13 +82,37 @@ QString TriggerOf(const DeleteRule& rule) {
       .arg(parent, QLatin1String(rule.child), QLatin1String(rule.same), QLatin1String(rule.action));
 }
 
-/// A sanction number that is mended takes along what is kept under it.
-QString RenumberTriggerOf(const char* child) {
+/// What is kept under the sanction number of a tournament or league.
+struct RenumberRule {
+  const char* parent;
+  const char* child;
+};
+
+// Leagues are deleted alone, and what is kept under their numbers stays: they have no delete rules.
+constexpr RenumberRule RenumberRules[] = {
+    {"Tournaments", "TournamentClasses"},
+    {"Tournaments", "TournamentEntrants"},
+    {"Tournaments", "TournamentTeamEntrants"},
+    {"Tournaments", "TournamentSinglesRR"},
+    {"Tournaments", "TournamentDoublesRR"},
+    {"Tournaments", "ReportGroup"},
+    {"Tournaments", "ReportGroupClass"},
+    {"Tournaments", "PlayerScores"},
+    {"Leagues", "LeagueMembers"},
+    {"Leagues", "LeagueTeams"},
+    {"Leagues", "LeagueScores"},
+    {"Leagues", "LeagueTeamScores"},
+};
+
+/// A sanction number that is mended takes along what is kept under it. A second row under the old
+/// number keeps it.
+QString RenumberTriggerOf(const RenumberRule& rule) {
   return QStringLiteral(
-             "CREATE TRIGGER IF NOT EXISTS Tournaments_Renumber_%1 AFTER UPDATE OF SanctionID ON "
-             "Tournaments WHEN NEW.SanctionID <> OLD.SanctionID AND NOT EXISTS (SELECT 1 FROM "
-             "Tournaments WHERE %2) BEGIN UPDATE %1 SET SanctionID = NEW.SanctionID WHERE %2; END")
-      .arg(QLatin1String(child), QLatin1String(SameTournament));
+             "CREATE TRIGGER IF NOT EXISTS %1_Renumber_%2 AFTER UPDATE OF SanctionID ON %1 WHEN "
+             "NEW.SanctionID <> OLD.SanctionID AND NOT EXISTS (SELECT 1 FROM %1 WHERE "
+             "SanctionID = OLD.SanctionID) BEGIN UPDATE %2 SET SanctionID = NEW.SanctionID WHERE "
+             "SanctionID = OLD.SanctionID; END")
+      .arg(QLatin1String(rule.parent), QLatin1String(rule.child));
 }
 
 }  // namespace
@@ -114,10 +138,14 @@ void EnsureIndexes(sqlite3* db) {
 }
 
 void EnsureKeyRules(sqlite3* db) {
+  const auto hasTables = [db](const auto& rule) {
+    return HasTable(db, rule.parent) && HasTable(db, rule.child);
+  };
   for (const DeleteRule& rule : DeleteRules) {
-    if (!HasTable(db, rule.parent) || !HasTable(db, rule.child)) continue;
-    RunSql(db, TriggerOf(rule));
-    if (rule.same == SameTournament) RunSql(db, RenumberTriggerOf(rule.child));
+    if (hasTables(rule)) RunSql(db, TriggerOf(rule));
+  }
+  for (const RenumberRule& rule : RenumberRules) {
+    if (hasTables(rule)) RunSql(db, RenumberTriggerOf(rule));
   }
 }
 

@@ -64,8 +64,8 @@ void AddClubColumn(sqlite3* db, const char* table, const char* column);
 void EnsureIndexes(sqlite3* db);
 /// Puts the rules of keys in force, as far as the tables they speak of exist: a deleted
 /// tournament takes its classes, entries, games, report groups and posted scores along, a deleted
-/// class its games and report rows, while its entries stay and are unplaced; a tournament given
-/// another sanction number takes all of them along to it. Safe to repeat.
+/// class its games and report rows, while its entries stay and are unplaced; a tournament or league
+/// given another sanction number takes along all that is kept under it. Safe to repeat.
 void EnsureKeyRules(sqlite3* db);
 
 /// Makes a new club file with all tables and settings at the present version; its folder is made

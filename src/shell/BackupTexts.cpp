@@ -8,7 +8,9 @@
 namespace tavrelin {
 
 QString BackupDate(const ClubBackup& backup) {
-  return QLocale::c().toString(backup.made, QStringLiteral("dddd, MMMM d yyyy, h:mm AP"));
+  const QString date =
+      QLocale::c().toString(backup.made, QStringLiteral("dddd, MMMM d yyyy, h:mm AP"));
+  return backup.deed.isEmpty() ? date : date + QStringLiteral(", before ") + backup.deed;
 }
 
 QString BackupSize(const ClubBackup& backup) {

@@ -7,7 +7,8 @@ namespace tavrelin {
 
 struct ClubBackup;
 
-/// "Saturday, June 14 2025, 9:30 AM"
+/// "Saturday, June 14 2025, 9:30 AM", and ", before archiving scores" behind it where it was made
+/// before a deed.
 QString BackupDate(const ClubBackup& backup);
 /// "1.2 MB"
 QString BackupSize(const ClubBackup& backup);

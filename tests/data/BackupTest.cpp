@@ -13,6 +13,7 @@
 #include "data/Connection.h"
 #include "data/NewFile.h"
 #include "data/Schema.h"
+#include "shell/BackupTexts.h"
 #include "support/PlainDatabase.h"
 #include "support/QtPrinters.h"
 
@@ -95,6 +96,31 @@ TEST_F(BackupTest, TheLastTenAreKept) {
   QStringList kept;
   for (const ClubBackup& backup : BackupsOf(club)) kept.prepend(backup.path);
   EXPECT_EQ(kept, made.mid(2));
+}
+
+TEST_F(BackupTest, ABackupBeforeADeedIsNamedAfterItAndListedWithIt) {
+  AddPlayer("OLSON");
+  const QString made = BackUpBefore("archiving scores", club, Noon);
+  EXPECT_EQ(made, folder.filePath("Backups/Club.before-archiving-scores.2026-11-21_12-00-05.mdb"));
+  EXPECT_EQ(Players(made), "OLSON");
+  const QList<ClubBackup> backups = BackupsOf(club);
+  ASSERT_EQ(backups.size(), 1);
+  EXPECT_EQ(backups[0].deed, "archiving scores");
+  EXPECT_EQ(backups[0].made, Noon);
+  EXPECT_EQ(BackupDate(backups[0]),
+            "Saturday, November 21 2026, 12:00 PM, before archiving scores");
+  AddPlayer("WRONG");
+  RestoreClub(club, made, Noon.addSecs(60));
+  EXPECT_EQ(Players(club), "OLSON");
+}
+
+TEST_F(BackupTest, BackupsBeforeDeedsLieOutsideTheTen) {
+  const QString deed = BackUpBefore("deleting a league", club, Noon.addDays(-1));
+  for (int day = 0; day < 11; ++day) BackUpClub(club, Noon.addDays(day));
+  EXPECT_TRUE(QFile::exists(deed));
+  EXPECT_EQ(BackupsOf(club).size(), 11);
+  for (int day = 0; day < 11; ++day) BackUpBefore("deleting a league", club, Noon.addDays(day));
+  EXPECT_EQ(BackupsOf(club).size(), 22);
 }
 
 TEST_F(BackupTest, ABackupMadeUnderAClockThatWasSetBackIsNotTheOneThatGoes) {

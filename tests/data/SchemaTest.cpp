@@ -162,6 +162,34 @@ TEST_F(SchemaTest, AMendedSanctionNumberTakesAlongAllThatIsKeptUnderIt) {
   }
 }
 
+TEST_F(SchemaTest, AMendedNumberOfALeagueTakesMembersTeamsAndScoresAlong) {
+  DeliverClubFile(file);
+  PlainDatabase db(file);
+  const QStringList tables = {"LeagueMembers", "LeagueTeams", "LeagueScores", "LeagueTeamScores"};
+  for (const QString number : {"TX05001", "TX05002"}) {
+    db.Run("INSERT INTO Leagues (SanctionID) VALUES ('" + number + "')");
+    for (const QString& table : tables)
+      db.Run("INSERT INTO " + table + " (SanctionID) VALUES ('" + number + "')");
+  }
+  db.Run("UPDATE Leagues SET SanctionID = 'TX05009' WHERE SanctionID = 'TX05001'");
+  for (const QString& table : tables) {
+    EXPECT_EQ(db.Count(table + " WHERE SanctionID = 'TX05009'"), 1) << table.toStdString();
+    EXPECT_EQ(db.Count(table + " WHERE SanctionID = 'TX05002'"), 1) << table.toStdString();
+  }
+}
+
+TEST_F(SchemaTest, ADeletedLeagueLeavesItsMembersAndScores) {
+  DeliverClubFile(file);
+  PlainDatabase db(file);
+  db.Run(
+      "INSERT INTO Leagues (SanctionID) VALUES ('TX05001');"
+      "INSERT INTO LeagueMembers (SanctionID) VALUES ('TX05001');"
+      "INSERT INTO LeagueScores (SanctionID) VALUES ('TX05001');"
+      "DELETE FROM Leagues");
+  EXPECT_EQ(db.Count("LeagueMembers"), 1);
+  EXPECT_EQ(db.Count("LeagueScores"), 1);
+}
+
 TEST_F(SchemaTest, TheNumberOfOneOfTwoRowsOfATournamentTakesNothingAlong) {
   DeliverClubFile(file);
   PlainDatabase db(file);
