@@ -5,6 +5,7 @@
 #include <QPair>
 #include <QString>
 
+#include "basic/Refusal.h"
 #include "basic/Value.h"
 
 namespace tavrelin {
@@ -14,8 +15,9 @@ namespace tavrelin {
 using RowValues = QMap<QString, Value>;
 
 /// What a rule answers about a row that is about to be saved. The screen carries it out: writes the
-/// fixes into the row, shows the message, asks the question; it decides nothing.
-struct RowCheck {
+/// fixes into the row, shows the message, asks the question; it decides nothing. A No to anything
+/// but a row is a Refusal.
+struct [[nodiscard]] RowCheck {
   enum class Verdict {
     Save,     ///< nothing stands against it
     Cancel,   ///< the operator stays on the row to mend it
@@ -39,6 +41,8 @@ struct RowCheck {
     message = text;
     return *this;
   }
+  /// Takes over the No of a rule that looked at the row; nothing when it has none.
+  RowCheck& RefuseIf(const Refusal& refusal) { return refusal ? Refuse(refusal.sentence) : *this; }
   RowCheck& Drop(const QString& text = {}) {
     verdict = Verdict::Discard;
     message = text;

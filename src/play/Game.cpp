@@ -4,8 +4,8 @@
 #include <numeric>
 
 #include "data/Recordset.h"
-#include "play/ByID.h"
 #include "play/PlayFormat.h"
+#include "players/ByID.h"
 
 namespace tavrelin {
 namespace {

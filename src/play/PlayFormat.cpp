@@ -7,38 +7,6 @@
 namespace tavrelin {
 namespace {
 
-/// A query for the rows with these IDs; with none it finds no row.
-Recordset RowsByID(Connection& connection, const QString& select, const QString& column,
-                   const QStringList& ids) {
-  QStringList marks(ids.size(), QStringLiteral("?"));
-  QList<Value> values(ids.begin(), ids.end());
-  if (marks.isEmpty()) {
-    marks << QStringLiteral("?");
-    values << Value();
-  }
-  Recordset rows;
-  rows.Open(QStringLiteral("%1 WHERE %2 IN (%3)").arg(select, column, marks.join(u',')), connection,
-            Recordset::Lock::ReadOnly, values);
-  return rows;
-}
-
-ByID<QString> FullNames(Connection& connection, const QStringList& ids) {
-  ByID<QString> names;
-  const ByID<PersonName> people = PlayerNames(connection, ids);
-  for (const QString& id : ids) {
-    if (people.contains(id)) names[id] = people.value(id).Full();
-  }
-  return names;
-}
-
-ByID<QString> TeamNames(Connection& connection, const QStringList& ids) {
-  ByID<QString> names;
-  Recordset rows = RowsByID(connection, QStringLiteral("SELECT TeamID, Team FROM Teams"),
-                            QStringLiteral("TeamID"), ids);
-  for (; !rows.AtEnd(); rows.MoveNext()) names[rows.At(0).ToText()] = rows.At(1).Trimmed();
-  return names;
-}
-
 QString Placeholder(int width) {
   return u'\'' + QString(width, u'x') + u'\'';
 }
@@ -214,30 +182,6 @@ const PlayFormat& DoublesFormat() {
 
 const PlayFormat& FormatOf(const QString& code) {
   return code.trimmed().compare(u"D", Qt::CaseInsensitive) == 0 ? DoublesFormat() : SinglesFormat();
-}
-
-QString NotOnFile(const QString& id) {
-  return id + QStringLiteral(" (not on file)");
-}
-
-PersonName NameOrNumber(const ByID<PersonName>& names, const QString& id) {
-  if (names.contains(id) || id.trimmed().isEmpty()) return names.value(id);
-  return {{}, NotOnFile(id.trimmed())};
-}
-
-ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids,
-                             const QStringList& columns) {
-  const QStringList all = QStringList{"PlayerID", "FirstName", "LastName"} + columns;
-  ByID<PersonName> names;
-  Recordset rows =
-      RowsByID(connection, QStringLiteral("SELECT %1 FROM Players").arg(all.join(u", ")),
-               QStringLiteral("PlayerID"), ids);
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    PersonName& name = names[rows.At(0).ToText()];
-    name = {rows.At(1).Trimmed(), rows.At(2).Trimmed()};
-    for (const QString& column : columns) name.values[column] = rows[column];
-  }
-  return names;
 }
 
 }  // namespace tavrelin

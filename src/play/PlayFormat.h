@@ -7,7 +7,7 @@
 
 #include "basic/Value.h"
 #include "data/Recordset.h"
-#include "play/ByID.h"
+#include "players/PlayerNames.h"
 
 namespace tavrelin {
 
@@ -83,23 +83,5 @@ const PlayFormat& SinglesFormat();
 const PlayFormat& DoublesFormat();
 /// By a class's PlayFormat: "D" is doubles, anything else singles.
 const PlayFormat& FormatOf(const QString& code);
-
-struct PersonName {
-  QString first;
-  QString last;
-  QHash<QString, Value> values = {};  ///< what else was asked for, by column
-  QString Full() const { return (first + u' ' + last).trimmed(); }
-};
-
-/// What stands for the name of somebody who was deleted, so that he can still be told.
-QString NotOnFile(const QString& id);
-
-/// First and last names by PlayerID, in one query; and further columns of the roster.
-ByID<PersonName> PlayerNames(Connection& connection, const QStringList& ids,
-                             const QStringList& columns = {});
-
-/// The name of this player among those; "AB1234 (not on file)" as last name for one who was
-/// deleted.
-PersonName NameOrNumber(const ByID<PersonName>& names, const QString& id);
 
 }  // namespace tavrelin

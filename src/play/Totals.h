@@ -3,8 +3,8 @@
 #include <QList>
 #include <QString>
 
-#include "play/ByID.h"
 #include "play/Game.h"
+#include "players/ByID.h"
 
 namespace tavrelin {
 

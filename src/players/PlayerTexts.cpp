@@ -44,8 +44,4 @@ QString StoredTelephone(const QString& typed) {
   return digits;
 }
 
-QString NotOnRoster() {
-  return QStringLiteral(" (not on the roster)");
-}
-
 }  // namespace tavrelin

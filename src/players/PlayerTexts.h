@@ -18,8 +18,4 @@ QChar ZipCodeCharacter(QChar typed);
 /// A telephone number as the file keeps it: its digits alone, however it was typed.
 QString StoredTelephone(const QString& typed);
 
-/// What stands behind the number of a player whom a team, an entry or a list still names and the
-/// roster does not hold any more.
-QString NotOnRoster();
-
 }  // namespace tavrelin

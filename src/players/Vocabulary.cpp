@@ -2,14 +2,49 @@
 
 namespace tavrelin {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QString TextOf(const QList<CodeText>& list, const QString& code) {
+/// A division with its words: in lists to choose from, and beside an entry (empty: "Unknown").
+struct Division {
+  QString code;
+  QString text;
+  QString entryText;
+};
+
+const QList<Division>& DivisionWords() {
+  static const QList<Division> divisions = {
+      {u"AM"_s, u"Men"_s, u"Men"_s},
+      {u"AW"_s, u"Women"_s, u"Women"_s},
+      {u"JB"_s, u"Jr Boys"_s, u"Jr Boy"_s},
+      {u"JG"_s, u"Jr Girls"_s, u"Jr Girl"_s},
+      {u"EM"_s, u"Elder"_s, u"Elder"_s},
+      {u"CA"_s, u"Cadet"_s, u"Cadet"_s},
+      {u"CB"_s, u"Cadet Boy"_s, u"Cadet Boy"_s},
+      {u"CG"_s, u"Cadet Girl"_s, u"Cadet Girl"_s},
+      {u"SM"_s, u"Sr Men"_s, {}},
+      {u"SW"_s, u"Sr Women"_s, {}},
+      {u"UK"_s, u"Unknown"_s, {}},
+      {u"AX"_s, u"Exempt"_s, u"Exempt"_s},
+  };
+  return divisions;
+}
+
+/// The entry of a code in a list; null where the list has none.
+template <typename Entry>
+const Entry* Find(const QList<Entry>& list, const QString& code) {
   const QString wanted = code.trimmed();
-  for (const CodeText& entry : list) {
-    if (entry.code.compare(wanted, Qt::CaseInsensitive) == 0) return entry.text;
+  for (const Entry& entry : list) {
+    if (entry.code.compare(wanted, Qt::CaseInsensitive) == 0) return &entry;
   }
-  return wanted;
+  return nullptr;
+}
+
+QList<CodeText> MakeDivisions() {
+  QList<CodeText> list;
+  for (const Division& division : DivisionWords()) list.append({division.code, division.text});
+  return list;
 }
 
 QStringList WithoutForeignCodes(QStringList codes) {
@@ -21,11 +56,7 @@ QStringList WithoutForeignCodes(QStringList codes) {
 }  // namespace
 
 const QList<CodeText>& Divisions() {
-  static const QList<CodeText> divisions = {
-      {"AM", "Men"},    {"AW", "Women"},    {"JB", "Jr Boys"},   {"JG", "Jr Girls"},
-      {"EM", "Elder"},  {"CA", "Cadet"},    {"CB", "Cadet Boy"}, {"CG", "Cadet Girl"},
-      {"SM", "Sr Men"}, {"SW", "Sr Women"}, {"UK", "Unknown"},   {"AX", "Exempt"},
-  };
+  static const QList<CodeText> divisions = MakeDivisions();
   return divisions;
 }
 
@@ -41,11 +72,18 @@ QString DefaultMembershipType() {
 }
 
 QString DivisionText(const QString& code) {
-  return TextOf(Divisions(), code);
+  const Division* division = Find(DivisionWords(), code);
+  return division ? division->text : code.trimmed();
+}
+
+QString EntryDivisionText(const QString& code) {
+  const Division* division = Find(DivisionWords(), code);
+  return division && !division->entryText.isEmpty() ? division->entryText : u"Unknown"_s;
 }
 
 QString MembershipTypeText(const QString& code) {
-  return TextOf(MembershipTypes(), code);
+  const CodeText* type = Find(MembershipTypes(), code);
+  return type ? type->text : code.trimmed();
 }
 
 const QStringList& StateCodes() {

@@ -22,6 +22,9 @@ QString DefaultMembershipType();
 /// The word for a division code, the code itself where it is none of ours. Case and outer blanks
 /// are disregarded.
 QString DivisionText(const QString& code);
+/// The word for a division beside an entry, shorter for some; "Unknown" for the others and for a
+/// code that is none of ours.
+QString EntryDivisionText(const QString& code);
 /// The word for a membership type, by the same rule.
 QString MembershipTypeText(const QString& code);
 

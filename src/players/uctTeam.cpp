@@ -8,7 +8,7 @@
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "players/PlayerList.h"
-#include "players/PlayerTexts.h"
+#include "players/PlayerNames.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
@@ -132,10 +132,7 @@ void uctTeam::UserControl_Show() {
 }
 
 void uctTeam::LoadPool() {
-  data_->pool.Open(
-      "SELECT PlayerID, RTRIM(LastName) + ', ' + RTRIM(FirstName) AS PlayerName, City, State "
-      "FROM Players ORDER BY 2",
-      data_->connection);
+  data_->pool = RosterList(data_->connection, {"City", "State"});
   for (int position = 1; position <= data_->pool.RecordCount(); ++position) {
     data_->names.Add(data_->pool.CellAt(position, 0), data_->pool.CellAt(position, 1).ToText());
   }
@@ -208,7 +205,7 @@ void uctTeam::GridEX3_KeyDown(GridKeyDown& event, TypedSearch& search) {
 }
 
 void uctTeam::GridEX3_FetchData(GridFetchData& event) {
-  if (data_->names.IndexOf(event.value) < 0) event.text += NotOnRoster();
+  if (data_->names.IndexOf(event.value) < 0) event.text = NotOnFile(event.text);
 }
 
 void uctTeam::ListSelected() {

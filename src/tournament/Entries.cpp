@@ -115,14 +115,6 @@ QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
   return choices;
 }
 
-QString EntryCategoryText(const QString& category) {
-  static const QMap<QString, QString> texts = {
-      {"AM", "Men"},       {"AW", "Women"},      {"JB", "Jr Boy"},
-      {"JG", "Jr Girl"},   {"EM", "Elder"},      {"CA", "Cadet"},
-      {"CB", "Cadet Boy"}, {"CG", "Cadet Girl"}, {"AX", "Exempt"}};
-  return texts.value(category.toUpper(), "Unknown");
-}
-
 RowCheck CheckSecondEntry(Recordset& entries, const QString& playerID) {
   RowCheck check;
   if (entries.RecordCount() == 0) return check;

@@ -38,9 +38,6 @@ struct Choice {
 QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
                            const QString& playFormat);
 
-/// The word for a division beside an entry; "Unknown" for a code that is none of ours.
-QString EntryCategoryText(const QString& category);
-
 /// May this player be entered (again)? `entries` holds the tournament's singles entries; its cursor
 /// is moved. A player may stand in several classes, so a second entry is asked for, but not before
 /// the first one has its class.

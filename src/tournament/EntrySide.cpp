@@ -7,6 +7,8 @@
 #include "controls/GridEX.h"
 #include "controls/TypedSearch.h"
 #include "data/Connection.h"
+#include "players/PlayerNames.h"
+#include "players/Vocabulary.h"
 #include "shell/Labels.h"
 #include "shell/SideBySide.h"
 #include "tournament/Entries.h"
@@ -92,13 +94,13 @@ void EntrySide::NameEntrants(Connection& connection, const QString& sanctionID) 
   ValueList names, categories;
   for (; !rows.AtEnd(); rows.MoveNext()) {
     names.Add(rows.At(0), rows.At(1).ToText());
-    categories.Add(rows.At(0), EntryCategoryText(rows.At(2).Trimmed()));
+    categories.Add(rows.At(0), EntryDivisionText(rows.At(2).ToText()));
   }
   for (int position = 1; position <= entryKeys_.RecordCount(); ++position) {
     const Value entrant = entryKeys_.CellAt(position, entryKeys_.FieldIndex(kind_.entrantField));
     if (names.IndexOf(entrant) >= 0) continue;
-    names.Add(entrant, entrant.ToText() + kind_.missingText);
-    categories.Add(entrant, EntryCategoryText({}));
+    names.Add(entrant, NotOnFile(entrant.ToText()));
+    categories.Add(entrant, EntryDivisionText({}));
   }
   entries_->SetValueList(kind_.entrantField, names);
   entries_->SetValueList("Category", categories);

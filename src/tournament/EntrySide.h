@@ -25,7 +25,6 @@ struct EntrySideKind {
   QString entrantField;       ///< "PlayerID" or "TeamID"
   QString namesQuery;   ///< entrant, name and category of all in a tournament; its number is the
                         ///< parameter
-  QString missingText;  ///< behind the number of an entrant who is on file no more
   QString searchField;  ///< of the list, what typing looks for
   QString playFormat;   ///< of the classes that are offered
   QString listEmptyText, entriesEmptyText;

@@ -9,7 +9,6 @@
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "data/Connection.h"
-#include "players/PlayerTexts.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
@@ -108,7 +107,6 @@ EntrySideKind SinglesKind() {
       "SELECT p.PlayerID, RTRIM(p.LastName) + ', ' + p.FirstName, p.Category FROM "
       "TournamentEntrants e, Players p "
       "WHERE e.SanctionID = ? AND e.PlayerID = p.PlayerID";
-  kind.missingText = NotOnRoster();
   kind.searchField = "LastName";
   kind.playFormat = "S";
   kind.listEmptyText = "No players on the roster yet. Add them under Players / Profile.";
@@ -154,7 +152,6 @@ EntrySideKind DoublesKind() {
   kind.namesQuery =
       "SELECT t.TeamID, t.Team, '' FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? "
       "AND e.TeamID = t.TeamID";
-  kind.missingText = " (team no longer kept)";
   kind.searchField = "Team";
   kind.playFormat = "D";
   kind.listEmptyText = "No teams yet. Add them under Players / Teams.";

@@ -39,6 +39,17 @@ TEST(Vocabulary, TextsOfCodes) {
   EXPECT_EQ(MembershipTypeText("T"), "Trial");
 }
 
+TEST(Vocabulary, ADivisionBesideAnEntryHasItsOwnWordAndSomeAreUnknownThere) {
+  struct {
+    QString code, text;
+  } const cases[] = {{"AM", "Men"},       {"AW", "Women"},      {"JB", "Jr Boy"},
+                     {"jg ", "Jr Girl"},  {"EM", "Elder"},      {"CA", "Cadet"},
+                     {"CB", "Cadet Boy"}, {"CG", "Cadet Girl"}, {"SM", "Unknown"},
+                     {"SW", "Unknown"},   {"UK", "Unknown"},    {"AX", "Exempt"},
+                     {"M", "Unknown"},    {"", "Unknown"}};
+  for (const auto& c : cases) EXPECT_EQ(EntryDivisionText(c.code), c.text) << c.code.toStdString();
+}
+
 TEST(Vocabulary, StatesAreInAlphabeticalOrderWithTheWholeCountryLast) {
   for (QStringList codes : {StateCodes(), StateFilterCodes()}) {
     ASSERT_EQ(codes.takeLast(), "US");

@@ -61,7 +61,7 @@ TEST_F(DeletedPlayerTest, TheTeamNamesThePlayerByNumberAndCanLetHerGo) {
   bench.Show<uctTeam>();
   Enter("GridEX1", 1);
   EXPECT_EQ(TextsOf(Grid("GridEX3"), "PlayerID"),
-            QStringList({"OLSKAR (not on the roster)", "Smith, John"}));
+            QStringList({"OLSKAR (not on file)", "Smith, John"}));
   EXPECT_EQ(TextsOf(Grid("GridEX2"), "PlayerName"), QStringList("Smith, John"));
   bench.Focus("GridEX3");
   bench.Type("o");
@@ -74,7 +74,7 @@ TEST_F(DeletedPlayerTest, TheEntrySaysWhomItMissesAndIsStillKept) {
   bench.Show<uctEntrants>();
   GridEX& entries = Grid("GridEX2");
   ASSERT_EQ(entries.RowCount(), 1);
-  EXPECT_EQ(entries.TextAt(1, "PlayerID"), "OLSKAR (not on the roster)");
+  EXPECT_EQ(entries.TextAt(1, "PlayerID"), "OLSKAR (not on file)");
   bench.Focus("GridEX2");
   entries.SetRow(1);
   entries.SetCol("Paid");

@@ -239,8 +239,7 @@ TEST_F(uctTeamTest, AMemberWhoLeftTheRosterIsToldByHisNumberAndCanBeRemoved) {
   AddMember(1, "OLSKAR");
   Show();
   Choose(Teams(), 1);
-  EXPECT_EQ(TextsOf(Members(), "PlayerID"),
-            QStringList({"GONE00 (not on the roster)", "Olson, Karen"}));
+  EXPECT_EQ(TextsOf(Members(), "PlayerID"), QStringList({"GONE00 (not on file)", "Olson, Karen"}));
   OnRow(Members(), 1);
   bench.Press(Qt::Key_Delete);
   EXPECT_EQ(TextsOf(Members(), "PlayerID"), QStringList("Olson, Karen"));

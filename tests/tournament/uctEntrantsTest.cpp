@@ -424,7 +424,7 @@ TEST_F(uctEntrantsTest, AnEntryOfAPlayerDeletedFromTheRosterSaysSo) {
   Enter(Players(), 1);
   file.Execute("DELETE FROM Players WHERE PlayerID = 'ADAANN'");
   bench.LeaveAndReturn();
-  EXPECT_EQ(Entered().TextAt(1, "PlayerID"), "ADAANN (not on the roster)");
+  EXPECT_EQ(Entered().TextAt(1, "PlayerID"), "ADAANN (not on file)");
   EXPECT_EQ(Entered().TextAt(1, "Category"), "Unknown");
   Entered().SetRow(1);
   Entered().SetValue("Paid", 10);
@@ -439,7 +439,7 @@ TEST_F(uctEntrantsTest, AnEntryOfATeamThatWasDeletedSaysSoAndCanBeTakenOut) {
   Enter(Teams(), 1);
   file.Execute("DELETE FROM Teams WHERE TeamID = 1");
   bench.LeaveAndReturn();
-  EXPECT_EQ(TeamsEntered().TextAt(1, "TeamID"), "1 (team no longer kept)");
+  EXPECT_EQ(TeamsEntered().TextAt(1, "TeamID"), "1 (not on file)");
   TeamsEntered().SetRow(1);
   bench.person.WillAnswer(true);
   EXPECT_TRUE(TeamsEntered().DeleteRow());
