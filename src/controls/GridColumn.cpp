@@ -16,6 +16,10 @@ ValueList::ValueList(std::initializer_list<ValueItem> items) {
   for (const ValueItem& item : items) Add(item.code, item.text);
 }
 
+ValueList::ValueList(const QList<CodeText>& choices) {
+  for (const CodeText& choice : choices) Add(choice.code, choice.text);
+}
+
 void ValueList::Add(const Value& code, const QString& text) {
   const QString key = Lookup(code.ToText());
   if (!byCode_.contains(key)) byCode_.insert(key, static_cast<int>(items_.size()));

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+#include "basic/CodeText.h"
 #include "basic/Value.h"
 
 namespace tavrelin {
@@ -22,6 +23,7 @@ class ValueList {
  public:
   ValueList() = default;
   ValueList(std::initializer_list<ValueItem> items);
+  ValueList(const QList<CodeText>& choices);  // NOLINT(google-explicit-constructor)
 
   void Add(const Value& code, const QString& text);
   void Clear();

@@ -61,7 +61,7 @@ BoxScore BlockOf(const Recordset& row, const PlayFormat& format) {
 }  // namespace
 
 QList<BoxScore> BoxScores(Connection& connection, Standings& standings) {
-  const PlayFormat& format = standings.rules.Format();
+  const PlayFormat& format = FormatOf(standings.rules);
   const ByID<QString> names = format.entrantNames(connection, EntrantsIn(standings.games));
   QList<BoxScore> blocks;
   Recordset& rows = standings.rows;

@@ -1,18 +1,16 @@
 #include "play/CardJob.h"
 
-#include "data/Connection.h"
 #include "play/ClassLoad.h"
+#include "tournament/Tournaments.h"
 
 namespace tavrelin {
 namespace {
 
 void ReadTournament(Connection& connection, CardJob& job, const QString& sanctionID) {
-  Recordset tournament;
-  tournament.Open(QStringLiteral("SELECT Name, [Date] FROM Tournaments WHERE SanctionID = ?"),
-                  connection, Recordset::Lock::ReadOnly, {sanctionID});
-  if (tournament.AtEnd()) return;
-  job.tournament = tournament.At(0).Trimmed();
-  job.date = tournament.At(1).ToDate();
+  const std::optional<Tournament> tournament = FindTournament(connection, sanctionID);
+  if (!tournament) return;
+  job.tournament = tournament->name;
+  job.date = tournament->date;
 }
 
 void AddLines(Connection& connection, CardJob& job, const LoadedClass& loaded) {

@@ -76,7 +76,7 @@ bool IsEmptyOfPacer(const RowValues& row, const QString& field, const PlayFormat
 class Checker {
  public:
   Checker(const RowValues& row, const GameContext& context)
-      : row_(row), context_(context), format_(context.rules.Format()) {}
+      : row_(row), context_(context), format_(FormatOf(context.rules)) {}
 
   RowCheck Run() {
     if (Shoes() && Score() && Sides() && GameNumber() && Court() && Figures()) SinglePoints();

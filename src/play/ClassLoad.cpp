@@ -24,7 +24,7 @@ QList<Value> Key(const ClassRules& rules) {
 
 QList<Entrant> ReadEntrants(Connection& connection, const ClassRules& rules) {
   Recordset rows;
-  rows.Open(rules.Format().entrantsStatement, connection, Recordset::Lock::ReadOnly, Key(rules));
+  rows.Open(FormatOf(rules).entrantsStatement, connection, Recordset::Lock::ReadOnly, Key(rules));
   QList<Entrant> entrants;
   for (; !rows.AtEnd(); rows.MoveNext()) {
     Entrant entrant;
@@ -117,50 +117,16 @@ void ReadGameRows(Connection& connection, LoadedClass& loaded) {
   }
 }
 
-constexpr QLatin1String ClassStatement(
-    "SELECT SanctionID, ClassID, Name, HandicapPct, Shoes, RankMethod, PlayFormat, RankOverride "
-    "FROM TournamentClasses WHERE SanctionID = ? ");
-
-ClassRules RulesAt(const Recordset& rows) {
-  return {rows.At(0).Trimmed(),
-          rows.At(1).Trimmed(),
-          rows.At(2).Trimmed(),
-          rows.At(3).ToNumber(),
-          static_cast<int>(rows.At(4).ToWhole()),
-          rows.At(5).Trimmed(),
-          rows.At(6).Trimmed(),
-          rows.At(7).ToYesNo()};
-}
-
 }  // namespace
 
-const PlayFormat& ClassRules::Format() const {
-  return FormatOf(playFormat);
-}
-
-std::optional<ClassRules> FindClass(Connection& connection, const QString& sanctionID,
-                                    const QString& classID) {
-  Recordset rows;
-  rows.Open(ClassStatement + QStringLiteral("AND ClassID = ?"), connection,
-            Recordset::Lock::ReadOnly, {sanctionID.trimmed(), classID.trimmed()});
-  if (rows.AtEnd()) return std::nullopt;
-  return RulesAt(rows);
-}
-
-QList<ClassRules> FindClasses(Connection& connection, const QString& sanctionID,
-                              const QString& playFormat) {
-  Recordset rows;
-  rows.Open(ClassStatement + QStringLiteral("AND PlayFormat = ? ORDER BY ClassID"), connection,
-            Recordset::Lock::ReadOnly, {sanctionID.trimmed(), playFormat});
-  QList<ClassRules> classes;
-  for (; !rows.AtEnd(); rows.MoveNext()) classes.append(RulesAt(rows));
-  return classes;
+const PlayFormat& LoadedClass::Format() const {
+  return FormatOf(rules);
 }
 
 QList<Game> ReadClassGames(Connection& connection, const ClassRules& rules) {
   Recordset rows;
-  rows.Open(rules.Format().gamesStatement, connection, Recordset::Lock::ReadOnly, Key(rules));
-  return ReadGames(rows, rules.Format());
+  rows.Open(FormatOf(rules).gamesStatement, connection, Recordset::Lock::ReadOnly, Key(rules));
+  return ReadGames(rows, FormatOf(rules));
 }
 
 LoadedClass LoadClass(Connection& connection, const ClassRules& rules, bool withPacer) {
@@ -169,16 +135,16 @@ LoadedClass LoadClass(Connection& connection, const ClassRules& rules, bool with
   loaded.hasPacer = withPacer;
   ReadGameRows(connection, loaded);
   QList<Entrant> entrants = ReadEntrants(connection, rules);
-  FillNames(connection, rules.Format(), entrants);
+  FillNames(connection, FormatOf(rules), entrants);
   loaded.entrants = static_cast<int>(entrants.size());
   if (entrants.isEmpty()) {
     loaded.refusal = QStringLiteral("No players entered in class");
-    loaded.list = MakeList(rules.Format(), {});
+    loaded.list = MakeList(FormatOf(rules), {});
     return loaded;
   }
   Number(entrants);
-  if (loaded.hasPacer) entrants.append(Pacer(rules.Format()));
-  loaded.list = MakeList(rules.Format(), entrants);
+  if (loaded.hasPacer) entrants.append(Pacer(FormatOf(rules)));
+  loaded.list = MakeList(FormatOf(rules), entrants);
   if (!loaded.isPaired) loaded.courts = DefaultCourts(loaded.entrants);
   return loaded;
 }

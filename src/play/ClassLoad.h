@@ -1,39 +1,17 @@
 #pragma once
 
-#include <optional>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include "data/Recordset.h"
 #include "play/Game.h"
+#include "tournament/Classes.h"
 
 namespace tavrelin {
 
 class Connection;
 struct PlayFormat;
-
-/// The rules under which a class plays, as its row in TournamentClasses tells them.
-struct ClassRules {
-  QString sanctionID;
-  QString classID;
-  QString name;               ///< may be empty
-  double handicapPct = 0;     ///< 0: a class without handicap
-  int shoes = 0;              ///< shoes a game; 0: no fixed number
-  QString rankMethod;         ///< "P", "R", "H" or "O"
-  QString playFormat;         ///< "S" or "D"
-  bool rankOverride = false;  ///< the places stand as the director set them
-
-  const PlayFormat& Format() const;
-};
-
-/// The class, or nothing when the tournament has none of this ID. IDs are taken trimmed.
-std::optional<ClassRules> FindClass(Connection& connection, const QString& sanctionID,
-                                    const QString& classID);
-
-/// The classes of a tournament that are played in one format ("S" or "D"), by class.
-QList<ClassRules> FindClasses(Connection& connection, const QString& sanctionID,
-                              const QString& playFormat);
 
 /// The stored games of a class, in the order Game, Court.
 QList<Game> ReadClassGames(Connection& connection, const ClassRules& rules);
@@ -56,7 +34,7 @@ struct LoadedClass {
   int highestGame = 0;
   QString refusal;  ///< "No players entered in class", the list being empty then; else empty
 
-  const PlayFormat& Format() const { return rules.Format(); }
+  const PlayFormat& Format() const;
   bool IsOdd() const { return entrants % 2 == 1; }
 };
 

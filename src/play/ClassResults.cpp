@@ -7,6 +7,7 @@
 #include "play/Figures.h"
 #include "play/PlayFormat.h"
 #include "play/Ranking.h"
+#include "tournament/Tournaments.h"
 
 namespace tavrelin {
 namespace {
@@ -53,7 +54,7 @@ StandingLine LineAt(const RowReader& row, const PlayFormat& format) {
 
 QList<StandingLine> StandingLines(const Standings& standings) {
   const ClassRules& rules = standings.rules;
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   const double best = LargestFigure(standings.rows, QStringLiteral("EntryAvg"));
   QList<StandingLine> lines;
   for (int position = 1; position <= standings.rows.RecordCount(); ++position) {
@@ -71,13 +72,10 @@ ClassResults ReadResults(Connection& connection, Standings& standings) {
   results.sanctionID = standings.rules.sanctionID;
   results.className = standings.rules.name;
   results.rankBasis = standings.rankBasis;
-  results.doubles = standings.rules.Format().throwers.size() > 1;
-  Recordset tournament;
-  tournament.Open(QStringLiteral("SELECT Name, [Date] FROM Tournaments WHERE SanctionID = ?"),
-                  connection, Recordset::Lock::ReadOnly, {results.sanctionID});
-  if (!tournament.AtEnd()) {
-    results.tournament = tournament.At(0).Trimmed();
-    results.date = tournament.At(1).ToDate();
+  results.doubles = FormatOf(standings.rules).throwers.size() > 1;
+  if (const auto tournament = FindTournament(connection, results.sanctionID)) {
+    results.tournament = tournament->name;
+    results.date = tournament->date;
   }
   results.standings = StandingLines(standings);
   results.boxScores = BoxScores(connection, standings);

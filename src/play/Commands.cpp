@@ -84,7 +84,7 @@ QStringList EntryColumns(const PlayFormat& format) {
 }
 
 ByID<QList<Value>> ReadEntryColumns(Connection& connection, const ClassRules& rules) {
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   ByID<QList<Value>> entries;
   Recordset rows;
   rows.Open(QStringLiteral("SELECT %1, %2 FROM %3 WHERE SanctionID = ? AND ClassID = ?")
@@ -98,7 +98,7 @@ ByID<QList<Value>> ReadEntryColumns(Connection& connection, const ClassRules& ru
 }
 
 void WriteStandings(Connection& connection, Standings& standings, QTextStream& out) {
-  const PlayFormat& format = standings.rules.Format();
+  const PlayFormat& format = FormatOf(standings.rules);
   const QStringList shown = {
       format.entrantID, format.standingsName, "Won",    "Loss",        "Shoes",
       "Ringers",        "RingerPercent",      "Points", "OverAverage", "HeadToHead"};

@@ -167,7 +167,7 @@ QString CreatePairing(Connection& connection, const ClassRules& rules,
 
 void DeletePairing(Connection& connection, const ClassRules& rules) {
   connection.Execute(QStringLiteral("DELETE FROM %1 WHERE SanctionID = ? AND ClassID = ?")
-                         .arg(rules.Format().gameTable),
+                         .arg(FormatOf(rules).gameTable),
                      {rules.sanctionID, rules.classID});
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/Connection.h"
+#include "tournament/Classes.h"
 
 namespace tavrelin {
 namespace {
@@ -182,6 +183,10 @@ const PlayFormat& DoublesFormat() {
 
 const PlayFormat& FormatOf(const QString& code) {
   return code.trimmed().compare(u"D", Qt::CaseInsensitive) == 0 ? DoublesFormat() : SinglesFormat();
+}
+
+const PlayFormat& FormatOf(const ClassRules& rules) {
+  return FormatOf(rules.playFormat);
 }
 
 }  // namespace tavrelin

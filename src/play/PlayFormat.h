@@ -12,6 +12,7 @@
 namespace tavrelin {
 
 class Connection;
+struct ClassRules;
 
 /// The columns of one side of a stored game. An empty name: the format has no such column.
 struct SideColumns {
@@ -83,5 +84,6 @@ const PlayFormat& SinglesFormat();
 const PlayFormat& DoublesFormat();
 /// By a class's PlayFormat: "D" is doubles, anything else singles.
 const PlayFormat& FormatOf(const QString& code);
+const PlayFormat& FormatOf(const ClassRules& rules);
 
 }  // namespace tavrelin

@@ -9,6 +9,7 @@
 #include <QTabWidget>
 
 #include "basic/ScoreTexts.h"
+#include "controls/Choices.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "play/CardFrame.h"
@@ -27,8 +28,8 @@
 #include "shell/Operator.h"
 #include "shell/Store.h"
 #include "shell/StoredValues.h"
-#include "tournament/Entries.h"
 #include "tournament/TournamentBox.h"
+#include "tournament/Tournaments.h"
 
 namespace tavrelin {
 
@@ -106,8 +107,8 @@ void PlayScreen::UserControl_Show() {
   data_->connection.Open(ConnectString);
   ReadPaperSettings();
   SSTab1_->setCurrentIndex(0);
-  data_->tournaments = TournamentChoices(data_->connection);
-  cboTournaments_->Offer(data_->tournaments, around().store.Get(stored::RecentTournament));
+  cboTournaments_->Offer(AllTournaments(data_->connection),
+                         around().store.Get(stored::RecentTournament));
   cboTournaments_LostFocus();
   (cboClasses_->count() > 0 ? static_cast<QWidget*>(cboClasses_) : cboTournaments_)->setFocus();
 }
@@ -151,17 +152,18 @@ void PlayScreen::cboTournaments_LostFocus() {
   if (!DropClass()) return;
   sanctionID_ = cboTournaments_->SanctionID();
   Frame4_->SetFile(ResultsFile(cboTournaments_->currentText()));
-  cboClasses_->clear();
-  for (const ClassRules& rules : FindClasses(data_->connection, sanctionID_, format_.code))
-    cboClasses_->addItem(rules.name.isEmpty() ? rules.classID : rules.classID + "  " + rules.name);
+  const std::optional<Tournament> tournament = FindTournament(data_->connection, sanctionID_);
+  data_->tournamentName = tournament ? tournament->name : QString();
+  const QList<ClassRules> classes = ClassesOf(data_->connection, sanctionID_, format_.code);
+  Offer(*cboClasses_, ClassChoices(classes, "  "));
 }
 
 void PlayScreen::cboLoad_Click() {
-  const QString classID = cboClasses_->currentText().left(3).trimmed();
+  const QString classID = ChosenCode(*cboClasses_);
   if (classID.isEmpty() || !DropClass()) return;
   if (!ReadClass(classID)) return;
   stsInfo()->ClearMessage();
-  Frame4_->SetFile(ResultsFile(TournamentName() + "-" + cboClasses_->currentText()));
+  Frame4_->SetFile(ResultsFile(data_->tournamentName + "-" + cboClasses_->currentText()));
   NameEntrants();
   if (data_->loaded.isPaired) {
     ShowPaired();
@@ -188,12 +190,6 @@ bool PlayScreen::ReadClass(const QString& classID) {
   if (data_->loaded.refusal.isEmpty()) return true;
   Refuse(data_->loaded.refusal);
   return false;
-}
-
-QString PlayScreen::TournamentName() const {
-  for (const TournamentChoice& tournament : data_->tournaments)
-    if (tournament.sanctionID == sanctionID_) return tournament.name;
-  return {};
 }
 
 // The three states of the screen: nothing loaded, a class without games, a class with games

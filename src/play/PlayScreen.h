@@ -94,7 +94,6 @@ class PlayScreen : public Screen {
   void StoreChoices();
 
   bool IsSingles() const;
-  QString TournamentName() const;
   /// What the club set for its cards and sheets.
   void ReadPaperSettings();
   /// The way that all buttons for results have in common: checks, then the ranking as the director

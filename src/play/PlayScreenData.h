@@ -5,14 +5,13 @@
 #include "play/ClassLoad.h"
 #include "play/PlayScreen.h"
 #include "play/Ranking.h"
-#include "tournament/Entries.h"
 
 namespace tavrelin {
 
 /// What a play screen holds from show to hide. Rows go before their connection.
 struct PlayScreen::Data {
   Connection connection;
-  QList<TournamentChoice> tournaments;
+  QString tournamentName;  ///< of the chosen tournament; may be empty
   CardSettings cardSettings;
   int verticalOffset = 0;  ///< twips by which the sheet of results is moved down
   LoadedClass loaded;

@@ -16,7 +16,7 @@ struct Level {
 };
 
 Recordset OpenStandings(Connection& connection, const ClassRules& rules, bool forReport) {
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   Recordset rows;
   rows.Open(forReport ? format.reportStatement : format.standingsStatement, connection,
             Recordset::Lock::ReadOnly, {rules.sanctionID, rules.classID});
@@ -117,7 +117,7 @@ ByID<int> HeadToHead(const QList<Level>& levels, const QList<Game>& games) {
 /// the class ranked last leaves its figure in all his entries.
 void WriteHeadToHead(Connection& connection, Standings& standings) {
   const ClassRules& rules = standings.rules;
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   Recordset& rows = standings.rows;
   QList<Level> levels;
   EachRow(rows, [&] {
@@ -177,7 +177,7 @@ constexpr MethodOrder Orders[] = {
 }  // namespace
 
 RankOrder OrderOf(const ClassRules& rules, bool honourOverride) {
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   if (honourOverride && rules.rankOverride && format.hasOverride) {
     return {QStringLiteral("Override ASC"), QStringLiteral("(Rank - Override)")};
   }
@@ -200,7 +200,7 @@ Standings RankTheClass(Connection& connection, const ClassRules& rules,
   standings.games = ReadClassGames(connection, rules);
   WriteTotals(connection, rules, standings.games);
   standings.rows = OpenStandings(connection, rules, options.forReport);
-  if (standings.rows.RecordCount() > 0) FillNames(connection, rules.Format(), standings.rows);
+  if (standings.rows.RecordCount() > 0) FillNames(connection, FormatOf(rules), standings.rows);
   if (standings.rows.RecordCount() == 0) {
     if (!options.forReport) standings.refusal = QStringLiteral("Nothing to report");
   } else {

@@ -48,7 +48,7 @@ Assignments TotalsOf(const Totals& totals) {
 }
 
 Recordset OpenEntries(Connection& connection, const ClassRules& rules) {
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   QStringList columns = {format.entrantID};
   for (const ThrowerColumns& thrower : format.throwers) {
     if (thrower.id != format.entrantID) columns << thrower.id;
@@ -93,7 +93,7 @@ ByID<float> HighGames(const QList<Game>& games, qsizetype thrower) {
 }
 
 void WriteTotals(Connection& connection, const ClassRules& rules, const QList<Game>& games) {
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   const ByID<Totals> all = AddUp(games, format);
   QList<ByID<float>> high;
   for (qsizetype i = 0; i < format.throwers.size(); ++i) high << HighGames(games, i);

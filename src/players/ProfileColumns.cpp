@@ -1,6 +1,5 @@
 #include "players/ProfileColumns.h"
 
-#include "players/clsUtility.h"
 #include "players/Vocabulary.h"
 
 namespace tavrelin {
@@ -26,14 +25,14 @@ QList<GridColumn> NameAndCardColumns() {
        .field = "MembershipType",
        .width = 1005,
        .editor = CellEditor::List,
-       .values = AsValueList(MembershipTypes()),
+       .values = MembershipTypes(),
        .defaultValue = DefaultMembershipType(),
        .spokenCaption = "Membership type"},
       {.caption = "Division",
        .field = "Category",
        .width = 1005,
        .editor = CellEditor::List,
-       .values = AsValueList(Divisions())},
+       .values = Divisions()},
       {.caption = "Card",
        .field = "CardNumber",
        .width = 705,

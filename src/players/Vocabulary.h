@@ -4,13 +4,9 @@
 #include <QString>
 #include <QStringList>
 
-namespace tavrelin {
+#include "basic/CodeText.h"
 
-/// A code as the file stores it and the word that people read for it.
-struct CodeText {
-  QString code;
-  QString text;
-};
+namespace tavrelin {
 
 /// The divisions of the sport (`Category`), in the order in which every list offers them.
 const QList<CodeText>& Divisions();

@@ -1,27 +1,27 @@
 #include "players/clsUtility.h"
 
-#include <QComboBox>
-
+#include "controls/Choices.h"
 #include "controls/GridEX.h"
 #include "players/Vocabulary.h"
 
 namespace tavrelin {
 
-ValueList AsValueList(const QList<CodeText>& codes) {
-  ValueList values;
-  for (const CodeText& entry : codes) values.Add(entry.code, entry.text);
-  return values;
+namespace {
+
+QList<CodeText> AsChoices(const QStringList& codes) {
+  QList<CodeText> choices;
+  for (const QString& code : codes) choices.append({code, code});
+  return choices;
 }
 
+}  // namespace
+
 void clsUtility::LoadStateValueList(GridEX& grid, const QString& column) {
-  ValueList values;
-  for (const QString& code : StateCodes()) values.Add(code, code);
-  grid.SetValueList(column, values);
+  grid.SetValueList(column, AsChoices(StateCodes()));
 }
 
 void clsUtility::LoadStateCombo(QComboBox& combo) {
-  combo.clear();
-  for (const QString& code : StateFilterCodes()) combo.addItem(code, code);
+  Offer(combo, AsChoices(StateFilterCodes()));
 }
 
 }  // namespace tavrelin

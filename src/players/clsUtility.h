@@ -1,19 +1,12 @@
 #pragma once
 
-#include <QList>
 #include <QString>
-
-#include "controls/GridColumn.h"
 
 class QComboBox;
 
 namespace tavrelin {
 
 class GridEX;
-struct CodeText;
-
-/// Codes and their words as a grid's column offers them.
-ValueList AsValueList(const QList<CodeText>& codes);
 
 /// Fills the controls of all screens with the states and provinces; each entry's value and text are
 /// the code itself.

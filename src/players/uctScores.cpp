@@ -11,7 +11,6 @@
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "players/CheckPlayerScore.h"
-#include "players/clsUtility.h"
 #include "players/Vocabulary.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
@@ -80,7 +79,7 @@ QList<GridColumn> ScoreColumns() {
            .field = "Category",
            .width = 950,
            .editor = CellEditor::List,
-           .values = AsValueList(Divisions()),
+           .values = Divisions(),
            .spokenCaption = "Division"},
           {.caption = "Sanction",
            .field = "SanctionID",

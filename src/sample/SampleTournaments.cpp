@@ -115,12 +115,12 @@ void PlayClass(Work& work, const SampleClass& plan, const ClassRules& rules) {
   LoadedClass loaded = LoadClass(work.connection, rules);
   const int games = loaded.games.RecordCount();
   int left = plan.scores == SampleClass::Scores::Half ? games / 2 : games;
-  for (; left > 0; --left, loaded.games.MoveNext()) ScoreGame(work, loaded.games, rules.Format());
+  for (; left > 0; --left, loaded.games.MoveNext()) ScoreGame(work, loaded.games, FormatOf(rules));
 }
 
 /// High games by thrower, which the standings do not carry.
 QHash<QString, double> HighGames(Work& work, const ClassRules& rules) {
-  const PlayFormat& format = rules.Format();
+  const PlayFormat& format = FormatOf(rules);
   Recordset entries;
   entries.Open(QStringLiteral("SELECT * FROM %1 WHERE SanctionID = ? AND ClassID = ?")
                    .arg(format.entrantTable),
@@ -137,7 +137,7 @@ QHash<QString, double> HighGames(Work& work, const ClassRules& rules) {
 /// The results of a ranked class as they stand in the players' statistics.
 void PostClass(Work& work, const ClassRules& rules, Standings& standings) {
   const QHash<QString, double> high = HighGames(work, rules);
-  const QList<ThrowerColumns>& throwers = rules.Format().throwers;
+  const QList<ThrowerColumns>& throwers = FormatOf(rules).throwers;
   Recordset& rows = standings.rows;
   for (int place = 1; !rows.AtEnd(); rows.MoveNext(), ++place) {
     for (const ThrowerColumns& thrower : throwers) {

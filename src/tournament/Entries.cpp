@@ -2,9 +2,9 @@
 
 #include <cmath>
 #include <limits>
+#include <QMap>
 
 #include "basic/Conversions.h"
-#include "basic/Picture.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "players/EntryAverage.h"
@@ -80,40 +80,6 @@ RowCheck RefusedIf(const QString& broken) {
 constexpr const char* TwoPlayers = "Team must have two players";
 
 }  // namespace
-
-QList<TournamentChoice> TournamentChoices(Connection& connection) {
-  Recordset rows;
-  rows.Open("SELECT SanctionID, Name, Date FROM Tournaments ORDER BY Date DESC", connection);
-  QList<TournamentChoice> choices;
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    const QString sanctionID = rows["SanctionID"].Trimmed();
-    const QString name = rows["Name"].Trimmed();
-    QString text = FormatSanction(sanctionID);
-    if (!rows["Name"].IsNull()) text += "   " + name;
-    choices.append({sanctionID, text, name, rows["Date"].ToDate()});
-  }
-  return choices;
-}
-
-std::optional<TournamentChoice> FindTournament(Connection& connection, const QString& sanctionID) {
-  for (const TournamentChoice& choice : TournamentChoices(connection))
-    if (choice.sanctionID.compare(sanctionID, Qt::CaseInsensitive) == 0) return choice;
-  return {};
-}
-
-QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
-                           const QString& playFormat) {
-  Recordset rows;
-  rows.Open("SELECT ClassID, Name, PlayFormat FROM TournamentClasses WHERE SanctionID = ? ",
-            connection, Recordset::Lock::ReadOnly, {sanctionID});
-  rows.SetFilter("PlayFormat = '" + EscapeQuotes(playFormat) + "'");
-  QList<Choice> choices;
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    const QString classID = rows["ClassID"].Trimmed();
-    choices.append({classID, classID + "   " + rows["Name"].ToText()});
-  }
-  return choices;
-}
 
 RowCheck CheckSecondEntry(Recordset& entries, const QString& playerID) {
   RowCheck check;

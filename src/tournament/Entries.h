@@ -1,9 +1,6 @@
 #pragma once
 
-#include <optional>
 #include <QDate>
-#include <QList>
-#include <QMap>
 #include <QString>
 
 #include "basic/RowCheck.h"
@@ -12,31 +9,6 @@
 namespace tavrelin {
 
 class Connection;
-
-/// One tournament as the boxes of the play screens offer it.
-struct TournamentChoice {
-  QString sanctionID;
-  QString text;  ///< "@@-@@-@@@", three blanks, the name
-  QString name;
-  QDateTime date;  ///< invalid when the file holds none
-};
-
-/// All tournaments, the latest first.
-QList<TournamentChoice> TournamentChoices(Connection& connection);
-
-/// A tournament by its number; nothing when the file holds none of it.
-std::optional<TournamentChoice> FindTournament(Connection& connection, const QString& sanctionID);
-
-/// A code and what is shown for it, for value lists.
-struct Choice {
-  QString code;
-  QString text;
-};
-
-/// The classes of a tournament that are played in one format ("S" or "D"): class, three blanks,
-/// name.
-QList<Choice> ClassChoices(Connection& connection, const QString& sanctionID,
-                           const QString& playFormat);
 
 /// May this player be entered (again)? `entries` holds the tournament's singles entries; its cursor
 /// is moved. A player may stand in several classes, so a second entry is asked for, but not before

@@ -11,6 +11,7 @@
 #include "players/Vocabulary.h"
 #include "shell/Labels.h"
 #include "shell/SideBySide.h"
+#include "tournament/Classes.h"
 #include "tournament/Entries.h"
 
 namespace tavrelin {
@@ -114,10 +115,8 @@ void EntrySide::LetEditWhatIsRead() {
 }
 
 void EntrySide::OfferClasses(Connection& connection, const QString& sanctionID) {
-  ValueList classes;
-  for (const Choice& choice : ClassChoices(connection, sanctionID, kind_.playFormat))
-    classes.Add(choice.code, choice.text);
-  entries_->SetValueList("ClassID", classes);
+  const QList<ClassRules> classes = ClassesOf(connection, sanctionID, kind_.playFormat);
+  entries_->SetValueList("ClassID", ClassChoices(classes, "   "));
 }
 
 void EntrySide::GoToPayment(const QString& entrant) {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "basic/SanctionNumber.h"
-#include "tournament/Entries.h"
+#include "tournament/Tournaments.h"
 
 namespace tavrelin {
 
@@ -21,9 +21,10 @@ TournamentBox::TournamentBox(QWidget* parent) : QComboBox(parent) {
   connect(lineEdit(), &QLineEdit::editingFinished, this, [this] { TextSettled(); });
 }
 
-void TournamentBox::Offer(const QList<TournamentChoice>& choices, const QString& preset) {
+void TournamentBox::Offer(const QList<Tournament>& tournaments, const QString& preset) {
   clear();
-  for (const TournamentChoice& choice : choices) addItem(choice.text);
+  for (const Tournament& tournament : tournaments)
+    addItem(tournament.BoxText(), tournament.sanctionID);
   setCurrentIndex(findText(preset, Qt::MatchFixedString));
   setEditText(preset);
   settled_ = before_ = preset;
@@ -36,7 +37,8 @@ void TournamentBox::GoBack() {
 }
 
 QString TournamentBox::SanctionID() const {
-  return SanctionOfComboText(currentText());
+  const int offered = findText(currentText(), Qt::MatchFixedString);
+  return offered < 0 ? SanctionOfComboText(currentText()) : itemData(offered).toString();
 }
 
 void TournamentBox::wheelEvent(QWheelEvent* event) {

@@ -4,7 +4,7 @@
 
 namespace tavrelin {
 
-struct TournamentChoice;
+struct Tournament;
 
 /// The box in which a tournament is chosen (`cboTournaments`): picked from the list, the latest
 /// first, or typed.
@@ -14,11 +14,12 @@ class TournamentBox : public QComboBox {
  public:
   explicit TournamentBox(QWidget* parent);
 
-  /// Offers the tournaments anew and shows `preset`, a text as RecentTournament keeps it.
-  void Offer(const QList<TournamentChoice>& choices, const QString& preset);
+  /// Offers these tournaments and shows `preset`, a text as RecentTournament keeps it.
+  void Offer(const QList<Tournament>& tournaments, const QString& preset);
   /// Shows the choice before the last one again, where the last one cannot be followed.
   void GoBack();
-  /// The number in the text; empty when there is none.
+  /// The number of the tournament whose text is shown; of any other text, the number that it begins
+  /// with. Empty when there is none.
   QString SanctionID() const;
 
  Q_SIGNALS:

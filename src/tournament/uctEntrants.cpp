@@ -17,6 +17,7 @@
 #include "tournament/Entries.h"
 #include "tournament/EntrySide.h"
 #include "tournament/TournamentBox.h"
+#include "tournament/Tournaments.h"
 
 namespace tavrelin {
 
@@ -224,7 +225,7 @@ void uctEntrants::UserControl_Show() {
   connection_->Open(ConnectString);
   singles_->ShowList(*connection_);
   doubles_->ShowList(*connection_);
-  cboTournaments_->Offer(TournamentChoices(*connection_),
+  cboTournaments_->Offer(AllTournaments(*connection_),
                          around().store.Get(stored::RecentTournament));
   cboTournaments_LostFocus();
   if (sanctionID_.isEmpty()) cboTournaments_->setFocus();
@@ -252,7 +253,7 @@ void uctEntrants::cboTournaments_LostFocus() {
   stsInfo()->ClearMessage();
   if (!CommitEntries()) return cboTournaments_->GoBack();
   sanctionID_ = cboTournaments_->SanctionID();
-  const std::optional<TournamentChoice> found = FindTournament(*connection_, sanctionID_);
+  const std::optional<Tournament> found = FindTournament(*connection_, sanctionID_);
   onFile_ = found.has_value();
   if (found) sanctionID_ = found->sanctionID;
   tournamentDate_ = found ? found->date : around().clock.Now();

@@ -269,7 +269,7 @@ TEST_F(PairingTest, AClassIsFoundByItsTrimmedID) {
   EXPECT_EQ(rules.classID, "AB");
   EXPECT_EQ(rules.rankMethod, "H");
   EXPECT_EQ(rules.handicapPct, 80);
-  EXPECT_EQ(&rules.Format(), &DoublesFormat());
+  EXPECT_EQ(&FormatOf(rules), &DoublesFormat());
   EXPECT_FALSE(FindClass(connection_, Sanction, "X").has_value());
 }
 

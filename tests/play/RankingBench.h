@@ -21,7 +21,7 @@ class RankingBench : public ClassBench {
   /// The entrants' numbers in place order.
   static std::string Order(const Standings& standings) {
     QStringList order;
-    const int id = standings.rows.FieldIndex(standings.rules.Format().entrantID);
+    const int id = standings.rows.FieldIndex(FormatOf(standings.rules).entrantID);
     for (int place = 1; place <= standings.rows.RecordCount(); ++place) {
       order << QString::number(standings.rows.CellAt(place, id).ToWhole());
     }
@@ -30,7 +30,7 @@ class RankingBench : public ClassBench {
 
   /// A field of entrant n's line.
   static double Figure(const Standings& standings, int n, const QString& field) {
-    const int id = standings.rows.FieldIndex(standings.rules.Format().entrantID);
+    const int id = standings.rows.FieldIndex(FormatOf(standings.rules).entrantID);
     for (int place = 1; place <= standings.rows.RecordCount(); ++place) {
       if (standings.rows.CellAt(place, id).ToWhole() != n) continue;
       return standings.rows.CellAt(place, standings.rows.FieldIndex(field)).ToNumber();

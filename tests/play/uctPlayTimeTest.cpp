@@ -1,6 +1,7 @@
 #include "play/uctPlayTime.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -73,6 +74,18 @@ TEST_F(uctPlayTimeTest, AnUnpairedEvenClassOffersCourtsAndRoundsButNeitherByeNor
   EXPECT_TRUE(IsEnabled("cmdCreatePair"));
   for (const char* name : {"optBye", "optPacer", "cmdDeletePair", "GridEX1"})
     EXPECT_FALSE(IsEnabled(name)) << name;
+}
+
+// Such a number fits no club file of ours, but other programs write to the same tables.
+TEST_F(uctPlayTimeTest, AClassIsLoadedByItsWholeNumberHoweverLong) {
+  MakeSingles(4);
+  for (const char* table : {"TournamentClasses", "TournamentEntrants"}) {
+    const QByteArray sql = QByteArray("UPDATE ") + table + " SET ClassID = 'OPEN'";
+    ASSERT_EQ(sqlite3_exec(connection_.Handle(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+  }
+  ShowAndLoad();
+  EXPECT_EQ(bench.Find<QComboBox>("cboClasses").currentText(), "OPEN  Class A");
+  EXPECT_TRUE(IsEnabled("cmdCreatePair"));
 }
 
 TEST_F(uctPlayTimeTest, ARoundsListHoldsABlankAndOneToFour) {

@@ -39,7 +39,7 @@ TEST(clsUtility, AGridOffersAllCodesInTheirOrder) {
 }
 
 TEST(clsUtility, WordsAreOfferedInTheOrderOfTheirList) {
-  const QList<ValueItem> divisions = AsValueList(Divisions()).Items();
+  const QList<ValueItem> divisions = ValueList(Divisions()).Items();
   ASSERT_EQ(divisions.size(), 12);
   EXPECT_EQ(divisions.first().code, Value("AM"));
   EXPECT_EQ(divisions.first().text, "Men");

@@ -179,14 +179,6 @@ TEST_F(EntriesTest, APlayerStandsInAClassOnce) {
   EXPECT_EQ(message(first, "A"), "");
 }
 
-TEST_F(EntriesTest, ATournamentIsFoundByItsNumberInWhateverCase) {
-  const auto found = FindTournament(connection, "mn25a01");
-  ASSERT_TRUE(found);
-  EXPECT_EQ(found->sanctionID, "MN25A01");
-  EXPECT_EQ(found->date.date(), QDate(2025, 9, 20));
-  EXPECT_FALSE(FindTournament(connection, "MN25A99"));
-}
-
 TEST_F(EntriesTest, AFirstEntryWithoutAClassBlocksASecondOneAndWithAClassIsAskedAbout) {
   AddPlayer("SMIJOH", 45.5);
   Recordset none;
@@ -325,29 +317,6 @@ TEST_F(EntriesTest, EntriesAreRefusedInOrder) {
                         QString(c.field) == "Seed";
     EXPECT_EQ(CheckTeamEntry(row).message, shared ? c.message : "");
   }
-}
-
-TEST_F(EntriesTest, TournamentsAreOfferedLatestFirstUnderTheirNumberAndName) {
-  connection.Execute(
-      "INSERT INTO Tournaments (SanctionID, Name, Date) VALUES ('WI25B02', NULL, #10/1/2025#)");
-  const QList<TournamentChoice> choices = TournamentChoices(connection);
-  ASSERT_EQ(choices.size(), 2);
-  EXPECT_EQ(choices[0].text, "WI-25-B02");
-  EXPECT_EQ(choices[1].text, "MN-25-A01   Spring Open");
-}
-
-TEST_F(EntriesTest, OnlyClassesOfTheTabsFormatAreOffered) {
-  connection.Execute(
-      "INSERT INTO TournamentClasses (SanctionID, ClassID, Name, PlayFormat) VALUES ('MN25A01', "
-      "'A', 'Men', 'S')");
-  connection.Execute(
-      "INSERT INTO TournamentClasses (SanctionID, ClassID, Name, PlayFormat) VALUES ('MN25A01', "
-      "'D1', 'Pairs', 'D')");
-  const QList<Choice> singles = ClassChoices(connection, "MN25A01", "S");
-  ASSERT_EQ(singles.size(), 1);
-  EXPECT_EQ(singles[0].code, "A");
-  EXPECT_EQ(singles[0].text, "A   Men");
-  EXPECT_EQ(ClassChoices(connection, "MN25A01", "D").size(), 1);
 }
 
 }  // namespace
