@@ -43,6 +43,61 @@ int ValueList::IndexOfText(const QString& text) const {
   return -1;
 }
 
+GridColumn& GridColumn::Keyed(const QString& name) {
+  key = name;
+  return *this;
+}
+
+GridColumn& GridColumn::Spoken(const QString& words) {
+  spokenCaption = words;
+  return *this;
+}
+
+GridColumn& GridColumn::Pictured(const QString& pattern) {
+  picture = pattern;
+  return *this;
+}
+
+GridColumn& GridColumn::Placed(int place) {
+  position = place;
+  return *this;
+}
+
+GridColumn& GridColumn::SortedBy(SortKind kind) {
+  sort = kind;
+  return *this;
+}
+
+GridColumn& GridColumn::Defaulted(const Value& value) {
+  defaultValue = value;
+  return *this;
+}
+
+GridColumn& GridColumn::Filling() {
+  fill = true;
+  return *this;
+}
+
+GridColumn& GridColumn::Compacted() {
+  compact = true;
+  return *this;
+}
+
+GridColumn& GridColumn::UpperCased() {
+  upperCase = true;
+  return *this;
+}
+
+GridColumn& GridColumn::Skipped() {
+  selectable = false;
+  return *this;
+}
+
+GridColumn& GridColumn::ReadOnly() {
+  editable = false;
+  return *this;
+}
+
 QString WidestText(const GridColumn& column) {
   const QString& picture = column.picture;
   if (picture.isEmpty()) return {};

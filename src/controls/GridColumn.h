@@ -91,6 +91,20 @@ struct GridColumn {
   QString spokenCaption = {};  ///< for the screen reader, where the caption is too short to be said
 
   const QString& Key() const { return key.isEmpty() ? field : key; }
+
+  // One member changed, for tables of ready-made columns: see Columns.h.
+
+  GridColumn& Keyed(const QString& name);
+  GridColumn& Spoken(const QString& words);
+  GridColumn& Pictured(const QString& pattern);
+  GridColumn& Placed(int place);
+  GridColumn& SortedBy(SortKind kind);
+  GridColumn& Defaulted(const Value& value);
+  GridColumn& Filling();
+  GridColumn& Compacted();
+  GridColumn& UpperCased();
+  GridColumn& Skipped();  ///< the cursor cannot stand on it
+  GridColumn& ReadOnly();
 };
 
 /// The widest of what a column's picture writes, digits taken as zeros and letters as Ms: a figure

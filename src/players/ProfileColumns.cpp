@@ -1,113 +1,73 @@
 #include "players/ProfileColumns.h"
 
+#include "controls/Columns.h"
 #include "players/Vocabulary.h"
 
 namespace tavrelin {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr const char* TelephonePicture = "(000)000-0000";
+GridColumn TelephoneColumn(const QString& caption, const QString& field) {
+  return TextColumn(caption, field, 1200).Pictured(u"(000)000-0000"_s);
+}
+
+GridColumn ZipCodeColumn() {
+  GridColumn column = TextColumn(u"Zip-Postal"_s, u"ZipCode"_s, 1050).Placed(15);
+  column.fetchData = true;
+  return column;
+}
 
 QList<GridColumn> NameAndCardColumns() {
   return {
-      {.caption = "ID", .field = "PlayerID", .visible = false, .maxLength = 6},
-      {.caption = "First",
-       .field = "FirstName",
-       .width = 1005,
-       .maxLength = 20,
-       .spokenCaption = "First name"},
-      {.caption = "Last",
-       .field = "LastName",
-       .width = 1200,
-       .maxLength = 25,
-       .spokenCaption = "Last name"},
-      {.caption = "Type",
-       .field = "MembershipType",
-       .width = 1005,
-       .editor = CellEditor::List,
-       .values = MembershipTypes(),
-       .defaultValue = DefaultMembershipType(),
-       .spokenCaption = "Membership type"},
-      {.caption = "Division",
-       .field = "Category",
-       .width = 1005,
-       .editor = CellEditor::List,
-       .values = Divisions()},
-      {.caption = "Card",
-       .field = "CardNumber",
-       .width = 705,
-       .maxLength = 6,
-       .sort = SortKind::Numeric,
-       .compact = true,
-       .spokenCaption = "Card number"},
-      {.caption = "Year",
-       .field = "CardYear",
-       .width = 645,
-       .maxLength = 4,
-       .compact = true,
-       .spokenCaption = "Card year"},
+      {.caption = u"ID"_s, .field = u"PlayerID"_s, .visible = false, .maxLength = 6},
+      TextColumn(u"First"_s, u"FirstName"_s, 1005, 20).Spoken(u"First name"_s),
+      TextColumn(u"Last"_s, u"LastName"_s, 1200, 25).Spoken(u"Last name"_s),
+      ListColumn(u"Type"_s, u"MembershipType"_s, 1005, MembershipTypes())
+          .Defaulted(DefaultMembershipType())
+          .Spoken(u"Membership type"_s),
+      ListColumn(u"Division"_s, u"Category"_s, 1005, Divisions()),
+      TextColumn(u"Card"_s, u"CardNumber"_s, 705, 6)
+          .SortedBy(SortKind::Numeric)
+          .Compacted()
+          .Spoken(u"Card number"_s),
+      TextColumn(u"Year"_s, u"CardYear"_s, 645, 4).Compacted().Spoken(u"Card year"_s),
   };
 }
 
 QList<GridColumn> AddressColumns() {
   return {
-      {.caption = "Address", .field = "AddressOne", .width = 1860, .position = 12, .maxLength = 40},
-      {.caption = "City", .field = "City", .width = 1395, .position = 13, .maxLength = 30},
-      {.caption = "St",
-       .field = "State",
-       .width = 600,
-       .position = 14,
-       .editor = CellEditor::List,
-       .spokenCaption = "State"},
-      {.caption = "Zip-Postal",
-       .field = "ZipCode",
-       .width = 1050,
-       .position = 15,
-       .fetchData = true},
+      TextColumn(u"Address"_s, u"AddressOne"_s, 1860, 40).Placed(12),
+      TextColumn(u"City"_s, u"City"_s, 1395, 30).Placed(13),
+      StateColumn(600).Placed(14),
+      ZipCodeColumn(),
   };
 }
 
 QList<GridColumn> FigureColumns() {
   return {
-      {.caption = "Yrs",
-       .field = "Longevity",
-       .width = 525,
-       .position = 8,
-       .sort = SortKind::Numeric,
-       .compact = true,
-       .spokenCaption = "Years of membership"},
-      {.caption = "Birth Date",
-       .field = "BirthDate",
-       .width = 1140,
-       .position = 10,
-       .editor = CellEditor::Date,
-       .picture = "mm/dd/yyyy",
-       .sort = SortKind::Date},
-      {.caption = "Phone",
-       .field = "Telephone",
-       .width = 1200,
-       .position = 11,
-       .picture = TelephonePicture},
-      {.caption = "Remarks", .field = "Remarks", .width = 2805, .position = 16, .maxLength = 255},
-      {.caption = "Rgr %",
-       .field = "Average",
-       .width = 705,
-       .position = 9,
-       .editor = CellEditor::Number,
-       .picture = "#0.00",
-       .alignment = Qt::AlignRight,
-       .sort = SortKind::Numeric,
-       .compact = true,
-       .spokenCaption = "Ringer percent"},
+      TextColumn(u"Yrs"_s, u"Longevity"_s, 525)
+          .Placed(8)
+          .SortedBy(SortKind::Numeric)
+          .Compacted()
+          .Spoken(u"Years of membership"_s),
+      DateColumn(u"Birth Date"_s, u"BirthDate"_s, 1140).Placed(10),
+      TelephoneColumn(u"Phone"_s, u"Telephone"_s).Placed(11),
+      TextColumn(u"Remarks"_s, u"Remarks"_s, 2805, 255).Placed(16),
+      PercentColumn(u"Rgr %"_s, u"Average"_s, 705)
+          .Placed(9)
+          .Compacted()
+          .Spoken(u"Ringer percent"_s),
   };
 }
 
 QList<GridColumn> OtherColumns() {
   return {
-      {.caption = "Cell Phone", .field = "CellPhone", .width = 1200, .picture = TelephonePicture},
-      {.caption = "E-Mail", .field = "Email", .width = 2505, .maxLength = 60},
-      {.caption = "Emergency Info", .field = "EmergencyInfo", .width = 2805, .maxLength = 255},
-      {.caption = "Awards", .field = "Awards", .width = 2805, .maxLength = 255},
+      TelephoneColumn(u"Cell Phone"_s, u"CellPhone"_s),
+      TextColumn(u"E-Mail"_s, u"Email"_s, 2505, 60),
+      TextColumn(u"Emergency Info"_s, u"EmergencyInfo"_s, 2805, 255),
+      TextColumn(u"Awards"_s, u"Awards"_s, 2805, 255),
   };
 }
 

@@ -5,6 +5,7 @@
 #include "basic/Picture.h"
 #include "basic/RowCheck.h"
 #include "basic/SanctionNumber.h"
+#include "controls/Columns.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "controls/TypedSearch.h"
@@ -19,6 +20,8 @@
 
 namespace tavrelin {
 
+using namespace Qt::StringLiterals;
+
 /// The clone serves the search for duplicates, which must not move the grid's row.
 struct uctScores::Data {
   Connection connection;
@@ -30,72 +33,30 @@ namespace {
 constexpr int SearchPause = 1500;  // milliseconds
 
 QList<GridColumn> PlayerColumns() {
-  return {{.field = "PlayerID", .visible = false},
-          {.field = "Category", .visible = false},
-          {.caption = "First",
-           .field = "FirstName",
-           .width = 950,
-           .position = 4,
-           .fill = true,
-           .spokenCaption = "First name"},
-          {.caption = "Last",
-           .field = "LastName",
-           .width = 1100,
-           .position = 3,
-           .fill = true,
-           .spokenCaption = "Last name"}};
+  return {HiddenColumn(u"PlayerID"_s), HiddenColumn(u"Category"_s),
+          TextColumn(u"First"_s, u"FirstName"_s, 950).Placed(4).Filling().Spoken(u"First name"_s),
+          TextColumn(u"Last"_s, u"LastName"_s, 1100).Placed(3).Filling().Spoken(u"Last name"_s)};
 }
 
-GridColumn Figure(const char* caption, const char* field, const char* spoken, int width) {
-  return {.caption = caption,
-          .field = field,
-          .width = width,
-          .editor = CellEditor::Number,
-          .alignment = Qt::AlignRight,
-          .sort = SortKind::Numeric,
-          .spokenCaption = spoken};
-}
-
-GridColumn FigureFromZero(const char* caption, const char* field, const char* spoken, int width,
-                          const char* picture) {
-  GridColumn column = Figure(caption, field, spoken, width);
-  column.picture = picture;
-  column.defaultValue = 0;
+GridColumn OfferedSanctionColumn() {
+  GridColumn column = SanctionColumn(1200);
+  column.editor = CellEditor::Combo;
   return column;
 }
 
 QList<GridColumn> ScoreColumns() {
-  GridColumn percent = FigureFromZero("%", "Pct", "Ringer percent", 680, "#0.00");
-  percent.editable = false;
-  percent.selectable = false;
-  percent.defaultValue = {};
-  return {{.caption = "Name",
-           .field = "PlayerID",
-           .width = 1350,
-           .selectable = false,
-           .editable = false,
-           .fill = true},
-          {.caption = "Cat",
-           .field = "Category",
-           .width = 950,
-           .editor = CellEditor::List,
-           .values = Divisions(),
-           .spokenCaption = "Division"},
-          {.caption = "Sanction",
-           .field = "SanctionID",
-           .width = 1200,
-           .maxLength = 9,
-           .editor = CellEditor::Combo,
-           .picture = "@@-@@-@@@",
-           .upperCase = true,
-           .spokenCaption = "Sanction number"},
-          Figure("Shs", "Shoes", "Shoes", 600),
-          Figure("Rgrs", "Ringers", "Ringers", 600),
-          percent,
-          FigureFromZero("W", "Wins", "Wins", 530, "0.0"),
-          FigureFromZero("L", "Losses", "Losses", 530, "0.0"),
-          FigureFromZero("Pl", "Place", "Place", 480, "0"),
-          FigureFromZero("HiGm", "HiGame", "High game", 680, "#0.00")};
+  return {
+      NamesColumn(u"Name"_s, u"PlayerID"_s, 1350).Filling(),
+      ListColumn(u"Cat"_s, u"Category"_s, 950, Divisions()).Spoken(u"Division"_s),
+      OfferedSanctionColumn(),
+      NumberColumn(u"Shs"_s, u"Shoes"_s, 600).Spoken(u"Shoes"_s),
+      NumberColumn(u"Rgrs"_s, u"Ringers"_s, 600).Spoken(u"Ringers"_s),
+      PercentColumn(u"%"_s, u"Pct"_s, 680).Spoken(u"Ringer percent"_s).Skipped(),
+      NumberColumn(u"W"_s, u"Wins"_s, 530).Pictured(u"0.0"_s).Defaulted(0).Spoken(u"Wins"_s),
+      NumberColumn(u"L"_s, u"Losses"_s, 530).Pictured(u"0.0"_s).Defaulted(0).Spoken(u"Losses"_s),
+      NumberColumn(u"Pl"_s, u"Place"_s, 480).Pictured(u"0"_s).Defaulted(0).Spoken(u"Place"_s),
+      PercentColumn(u"HiGm"_s, u"HiGame"_s, 680).Defaulted(0).Spoken(u"High game"_s),
+  };
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "controls/Columns.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "controls/TypedSearch.h"
@@ -16,6 +17,8 @@
 
 namespace tavrelin {
 
+using namespace Qt::StringLiterals;
+
 struct uctTeam::Data {
   Connection connection;
   Recordset teams, pool, members;
@@ -28,25 +31,20 @@ namespace {
 constexpr int SearchPause = 1000;  // milliseconds
 
 QList<GridColumn> TeamColumns() {
-  return {
-      {.caption = "TeamID", .field = "TeamID", .width = 0, .selectable = false, .editable = false},
-      {.caption = "Team", .field = "Team", .width = 2700, .maxLength = 50, .fill = true}};
+  return {TextColumn(u"TeamID"_s, u"TeamID"_s, 0).Skipped(),
+          TextColumn(u"Team"_s, u"Team"_s, 2700, 50).Filling()};
 }
 
 QList<GridColumn> PoolColumns() {
-  return {{.caption = "PlayerID", .field = "PlayerID", .visible = false},
-          {.caption = "Name", .field = "PlayerName", .width = 2000, .fill = true},
-          {.caption = "City", .field = "City", .width = 1300},
-          {.caption = "St", .field = "State", .width = 500, .spokenCaption = "State"}};
+  return {HiddenColumn(u"PlayerID"_s), TextColumn(u"Name"_s, u"PlayerName"_s, 2000).Filling(),
+          TextColumn(u"City"_s, u"City"_s, 1300),
+          TextColumn(u"St"_s, u"State"_s, 500).Spoken(u"State"_s)};
 }
 
 QList<GridColumn> MemberColumns() {
-  return {{.caption = "TeamID", .field = "TeamID", .width = 0, .selectable = false},
-          {.caption = "Team Player",
-           .field = "PlayerID",
-           .width = 2700,
-           .fetchData = true,
-           .fill = true}};
+  GridColumn names = NamesColumn(u"Team Player"_s, u"PlayerID"_s, 2700).SortedBy(SortKind::Text);
+  names.fetchData = true;
+  return {TextColumn(u"TeamID"_s, u"TeamID"_s, 0).Skipped(), names.Filling()};
 }
 
 bool IsEnter(const GridKeyDown& event) {
@@ -132,10 +130,8 @@ void uctTeam::UserControl_Show() {
 }
 
 void uctTeam::LoadPool() {
-  data_->pool = RosterList(data_->connection, {"City", "State"});
-  for (int position = 1; position <= data_->pool.RecordCount(); ++position) {
-    data_->names.Add(data_->pool.CellAt(position, 0), data_->pool.CellAt(position, 1).ToText());
-  }
+  data_->pool = RosterList(data_->connection, {u"City"_s, u"State"_s});
+  data_->names = NamesIn(data_->pool, u"PlayerID"_s, u"PlayerName"_s);
   GridEX3_->SetValueList("PlayerID", data_->names);
   GridEX2_->SetRecordset(&data_->pool);
 }

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "controls/Columns.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "controls/TypedSearch.h"
@@ -13,6 +14,8 @@
 #include "shell/MessageBar.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
 
 struct uctSettings::Data {
   Connection connection;
@@ -29,18 +32,9 @@ TypedSearch::Criteria CriteriaOf(const QString& typed) {
 
 QList<GridColumn> SettingColumns() {
   return {
-      {.caption = "ID",
-       .field = "SettingID",
-       .width = 495,
-       .editable = false,
-       .alignment = Qt::AlignRight,
-       .sort = SortKind::Numeric},
-      {.caption = "Setting",
-       .field = "PromptValue",
-       .width = 4995,
-       .editable = false,
-       .fill = true},
-      {.caption = "Value", .field = "SettingValue", .width = 1995, .maxLength = 20},
+      NumberColumn(u"ID"_s, u"SettingID"_s, 495).ReadOnly(),
+      TextColumn(u"Setting"_s, u"PromptValue"_s, 4995).ReadOnly().Filling(),
+      TextColumn(u"Value"_s, u"SettingValue"_s, 1995, 20),
   };
 }
 

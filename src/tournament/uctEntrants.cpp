@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "basic/Picture.h"
+#include "controls/Columns.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "data/Connection.h"
@@ -21,36 +22,14 @@
 
 namespace tavrelin {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What "Update % from Profile" shows again of the entries: shoes and ringers stand empty until the
 // tournament is chosen anew.
 constexpr const char* ColumnsAfterUpdate =
     "e.SanctionID, e.PlayerID, e.Paid, e.Seed, e.RingerPercent, e.ClassID";
-
-GridColumn Amount(const char* caption, const char* field, const char* picture, int width) {
-  return {.caption = caption,
-          .field = field,
-          .width = width,
-          .editor = CellEditor::Number,
-          .picture = picture,
-          .alignment = Qt::AlignRight,
-          .sort = SortKind::Numeric};
-}
-
-GridColumn Count(const char* caption, const char* field, const char* key) {
-  return {.caption = caption,
-          .field = field,
-          .key = key,
-          .width = 550,
-          .editor = CellEditor::Number,
-          .alignment = Qt::AlignRight,
-          .sort = SortKind::Numeric};
-}
-
-GridColumn ClassColumn(int width) {
-  return {.caption = "Class", .field = "ClassID", .width = width, .editor = CellEditor::List};
-}
 
 EntrySideKind SinglesKind() {
   EntrySideKind kind;
@@ -61,38 +40,24 @@ EntrySideKind SinglesKind() {
   kind.entriesLabel = "Label3";
   kind.entriesCaption = "Players Entered";
   kind.listColumns = {
-      {.caption = "PlayerID", .field = "PlayerID", .visible = false},
-      {.caption = "Category", .field = "Category", .visible = false},
-      {.caption = "Name", .field = "PlayerName", .width = 1400, .fill = true},
-      {.caption = "Card", .field = "CardNumber", .width = 700, .sort = SortKind::Numeric},
-      {.caption = "St", .field = "State", .width = 450},
-      {.caption = "Year", .field = "CardYear", .width = 550},
+      HiddenColumn(u"PlayerID"_s),
+      HiddenColumn(u"Category"_s),
+      TextColumn(u"Name"_s, u"PlayerName"_s, 1400).Filling(),
+      TextColumn(u"Card"_s, u"CardNumber"_s, 700).SortedBy(SortKind::Numeric),
+      TextColumn(u"St"_s, u"State"_s, 450),
+      TextColumn(u"Year"_s, u"CardYear"_s, 550),
   };
   kind.entryColumns = {
-      {.caption = "SanctionID", .field = "SanctionID", .visible = false},
-      {.caption = "Name",
-       .field = "PlayerID",
-       .width = 1500,
-       .selectable = false,
-       .sort = SortKind::Shown,
-       .fill = true},
-      {.caption = "Cat",
-       .field = "PlayerID",
-       .key = "Category",
-       .width = 900,
-       .selectable = false,
-       .sort = SortKind::Shown},
-      Amount("Paid", "Paid", "##0.00", 650),
-      Count("Seed", "Seed", ""),
-      Amount("%", "RingerPercent", "##0.00", 650),
-      ClassColumn(750),
-      Count("Shoes", "TotalShoes", "Shoes"),
-      Count("Rgrs", "TotalRingers", "Ringers"),
-      {.caption = "Rank",
-       .field = "RankOverride",
-       .visible = false,
-       .selectable = false,
-       .defaultValue = 0},
+      HiddenColumn(u"SanctionID"_s),
+      NamesColumn(u"Name"_s, u"PlayerID"_s, 1500).Filling(),
+      NamesColumn(u"Cat"_s, u"PlayerID"_s, 900).Keyed(u"Category"_s),
+      NumberColumn(u"Paid"_s, u"Paid"_s, 650).Pictured(u"##0.00"_s),
+      NumberColumn(u"Seed"_s, u"Seed"_s, 550),
+      PercentColumn(u"%"_s, u"RingerPercent"_s, 650).Pictured(u"##0.00"_s),
+      ListColumn(u"Class"_s, u"ClassID"_s, 750),
+      NumberColumn(u"Shoes"_s, u"TotalShoes"_s, 550).Keyed(u"Shoes"_s),
+      NumberColumn(u"Rgrs"_s, u"TotalRingers"_s, 550).Keyed(u"Ringers"_s),
+      HiddenColumn(u"RankOverride"_s).Defaulted(0),
   };
   kind.listQuery =
       "SELECT PlayerID, RTRIM(LastName) + ', ' + FirstName AS PlayerName, LastName, FirstName, "
@@ -124,25 +89,16 @@ EntrySideKind DoublesKind() {
   kind.entriesLabel = "Label4";
   kind.entriesCaption = "Teams Entered";
   kind.listColumns = {
-      {.caption = "TeamID",
-       .field = "TeamID",
-       .width = 900,
-       .selectable = false,
-       .sort = SortKind::Numeric},
-      {.caption = "Team", .field = "Team", .width = 2000, .fill = true},
+      TextColumn(u"TeamID"_s, u"TeamID"_s, 900).Skipped().SortedBy(SortKind::Numeric),
+      TextColumn(u"Team"_s, u"Team"_s, 2000).Filling(),
   };
   kind.entryColumns = {
-      {.caption = "SanctionID", .field = "SanctionID", .visible = false},
-      {.caption = "Team",
-       .field = "TeamID",
-       .width = 3000,
-       .selectable = false,
-       .sort = SortKind::Shown,
-       .fill = true},
-      Amount("Paid", "Paid", "##0.00", 650),
-      Count("Seed", "Seed", ""),
-      Amount("%", "RingerPercent", "##0.00", 650),
-      ClassColumn(1600),
+      HiddenColumn(u"SanctionID"_s),
+      NamesColumn(u"Team"_s, u"TeamID"_s, 3000).Filling(),
+      NumberColumn(u"Paid"_s, u"Paid"_s, 650).Pictured(u"##0.00"_s),
+      NumberColumn(u"Seed"_s, u"Seed"_s, 550),
+      PercentColumn(u"%"_s, u"RingerPercent"_s, 650).Pictured(u"##0.00"_s),
+      ListColumn(u"Class"_s, u"ClassID"_s, 1600),
   };
   kind.listQuery = "SELECT TeamID, Team FROM Teams ORDER BY Team";
   kind.entryTable = "TournamentTeamEntrants";

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "basic/SanctionNumber.h"
+#include "controls/Columns.h"
 #include "controls/GridEX.h"
 #include "controls/GridRow.h"
 #include "data/Connection.h"
@@ -17,6 +18,8 @@
 #include "tournament/TournamentChecks.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
 
 /// Each grid has its connection, its rows, and a clone of them for the search for duplicates, which
 /// must not move the grid's row.
@@ -40,83 +43,30 @@ const QStringList& InheritedColumns() {
 
 QList<GridColumn> TournamentColumns() {
   return {
-      {.caption = "Sanction",
-       .field = "SanctionID",
-       .width = 1300,
-       .maxLength = 9,
-       .picture = "@@-@@-@@@",
-       .upperCase = true},
-      {.caption = "Name", .field = "Name", .width = 3000, .maxLength = 40, .fill = true},
-      {.caption = "Date",
-       .field = "Date",
-       .width = 1300,
-       .editor = CellEditor::Date,
-       .picture = "mm/dd/yyyy",
-       .sort = SortKind::Date},
-      {.caption = "City", .field = "City", .width = 1900, .maxLength = 30},
-      {.caption = "St", .field = "State", .width = 700, .editor = CellEditor::List},
-      {.caption = "Director", .field = "Director", .width = 2300, .maxLength = 40},
+      SanctionColumn(1300),
+      TextColumn(u"Name"_s, u"Name"_s, 3000, 40).Filling(),
+      DateColumn(u"Date"_s, u"Date"_s, 1300),
+      TextColumn(u"City"_s, u"City"_s, 1900, 30),
+      StateColumn(700),
+      TextColumn(u"Director"_s, u"Director"_s, 2300, 40),
   };
 }
 
 QList<GridColumn> ClassColumns() {
   return {
-      {.caption = "", .field = "SanctionID", .visible = false},
-      {.caption = "Class",
-       .field = "ClassID",
-       .width = 750,
-       .selectable = false,
-       .maxLength = 3,
-       .upperCase = true},
-      {.caption = "Name", .field = "Name", .width = 1700, .maxLength = 30, .fill = true},
-      {.caption = "Hcp",
-       .field = "HandicapPct",
-       .width = 600,
-       .editor = CellEditor::Number,
-       .alignment = Qt::AlignRight,
-       .sort = SortKind::Numeric,
-       .spokenCaption = "Handicap percent"},
-      {.caption = "Date/Time",
-       .field = "DateTime",
-       .width = 2050,
-       .editor = CellEditor::DateTime,
-       .picture = "mm/dd/yyyy h:mm AMPM",
-       .sort = SortKind::Date},
-      {.caption = "ShPG",
-       .field = "Shoes",
-       .width = 700,
-       .editor = CellEditor::Number,
-       .alignment = Qt::AlignRight,
-       .sort = SortKind::Numeric,
-       .spokenCaption = "Shoes per game"},
-      {.caption = "TieBreaker",
-       .field = "RankMethod",
-       .width = 1350,
-       .editor = CellEditor::List,
-       .values = {{"P", "Points"}, {"R", "Rgr Percent"}, {"H", "HeadToHead"}, {"O", "Over Avg"}}},
-      {.caption = "Format",
-       .field = "PlayFormat",
-       .width = 1050,
-       .editor = CellEditor::List,
-       .values = {{"S", "Singles"}, {"D", "Doubles"}}},
-      {.caption = "Chmp",
-       .field = "ChampionshipClass",
-       .width = 700,
-       .editor = CellEditor::CheckBox,
-       .spokenCaption = "Championship class"},
-      {.caption = "NoPA",
-       .field = "PlacesPaidOut",
-       .width = 700,
-       .editor = CellEditor::Number,
-       .alignment = Qt::AlignRight,
-       .sort = SortKind::Numeric,
-       .spokenCaption = "Number of players awarded"},
-      {.caption = "Report", .field = "Report", .width = 850, .editor = CellEditor::CheckBox},
-      {.caption = "Rank",
-       .field = "RankOverride",
-       .visible = false,
-       .selectable = false,
-       .editor = CellEditor::CheckBox},
+      HiddenColumn(u"SanctionID"_s),
+      TextColumn(u"Class"_s, u"ClassID"_s, 750, 3).Skipped().UpperCased(),
+      TextColumn(u"Name"_s, u"Name"_s, 1700, 30).Filling(),
+      NumberColumn(u"Hcp"_s, u"HandicapPct"_s, 600).Spoken(u"Handicap percent"_s),
+      DateTimeColumn(u"Date/Time"_s, u"DateTime"_s, 2050),
+      NumberColumn(u"ShPG"_s, u"Shoes"_s, 700).Spoken(u"Shoes per game"_s),
+      ListColumn(u"TieBreaker"_s, u"RankMethod"_s, 1350,
+                 {{"P", "Points"}, {"R", "Rgr Percent"}, {"H", "HeadToHead"}, {"O", "Over Avg"}}),
+      ListColumn(u"Format"_s, u"PlayFormat"_s, 1050, {{"S", "Singles"}, {"D", "Doubles"}}),
+      CheckColumn(u"Chmp"_s, u"ChampionshipClass"_s, 700).Spoken(u"Championship class"_s),
+      NumberColumn(u"NoPA"_s, u"PlacesPaidOut"_s, 700).Spoken(u"Number of players awarded"_s),
+      CheckColumn(u"Report"_s, u"Report"_s, 850),
+      HiddenColumn(u"RankOverride"_s),
   };
 }
 
