@@ -48,6 +48,16 @@ int SystemSettings::Twips(Setting setting) const {
   return static_cast<int>(std::clamp(RoundHalfEven(CDbl(text)), -FarthestShift, FarthestShift));
 }
 
+Recordset OpenShownSettings(Connection& connection) {
+  Recordset rows;
+  rows.Open(QStringLiteral("SELECT * FROM SystemSettings WHERE SettingID NOT IN (%1, %2) "
+                           "ORDER BY SettingID")
+                .arg(static_cast<int>(Setting::DatabaseVersion))
+                .arg(static_cast<int>(Setting::LeagueSync)),
+            connection, Recordset::Lock::Optimistic);
+  return rows;
+}
+
 RowCheck CheckSetting(const RowValues& row) {
   RowCheck check;
   const auto id = static_cast<Setting>(row.value(SettingID).ToWhole());

@@ -45,6 +45,10 @@ class SystemSettings {
   QHash<int, QString> values_;
 };
 
+/// The rows that the Settings screen shows, to be edited: all but those that are never shown. The
+/// connection must outlive them.
+Recordset OpenShownSettings(Connection& connection);
+
 /// May the operator leave a row of the Settings screen? The two adjustments of the cards must be
 /// numbers; all else is taken as it is typed.
 RowCheck CheckSetting(const RowValues& row);

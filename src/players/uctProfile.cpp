@@ -16,6 +16,7 @@
 #include "data/Recordset.h"
 #include "players/CheckPlayer.h"
 #include "players/clsUtility.h"
+#include "players/PlayerRows.h"
 #include "players/PlayerTexts.h"
 #include "players/ProfileColumns.h"
 #include "shell/Labels.h"
@@ -119,10 +120,7 @@ void uctProfile::LayOut() {
 void uctProfile::UserControl_Show() {
   data_ = std::make_unique<Data>();
   data_->connection.Open(ConnectString);
-  data_->players.Open("SELECT * FROM Players ORDER BY LastName", data_->connection,
-                      Recordset::Lock::Optimistic);
-  data_->players.Optimize("PlayerID");
-  data_->players.Optimize("CardNumber");
+  data_->players = OpenRoster(data_->connection);
   data_->keys = data_->players.Clone();
   grdProfile_->SetRecordset(&data_->players);
   SortBy("LastName", true);

@@ -2,7 +2,6 @@
 
 #include <QLabel>
 
-#include "basic/Picture.h"
 #include "basic/RowCheck.h"
 #include "basic/SanctionNumber.h"
 #include "controls/Columns.h"
@@ -12,6 +11,7 @@
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "players/CheckPlayerScore.h"
+#include "players/PlayerRows.h"
 #include "players/Vocabulary.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
@@ -121,20 +121,12 @@ void uctScores::UserControl_Show() {
 }
 
 void uctScores::LoadPlayers() {
-  Recordset& players = data_->players;
-  players.Open("SELECT PlayerID, LastName, FirstName, Category FROM Players ORDER BY LastName",
-               data_->connection);
-  GridEX1_->SetRecordset(&players);
+  data_->players = PlayersByLastName(data_->connection);
+  GridEX1_->SetRecordset(&data_->players);
 }
 
 void uctScores::LoadSanctions() {
-  Recordset tournaments;
-  tournaments.Open("SELECT SanctionID FROM Tournaments ORDER BY Date DESC", data_->connection);
-  ValueList sanctions;
-  for (; !tournaments.AtEnd(); tournaments.MoveNext()) {
-    sanctions.Add(tournaments.At(0), FormatSanction(tournaments.At(0).ToText()));
-  }
-  GridEX2_->SetValueList("SanctionID", sanctions);
+  GridEX2_->SetValueList("SanctionID", SanctionChoices(data_->connection));
 }
 
 void uctScores::UserControl_Hide() {
@@ -151,10 +143,7 @@ void uctScores::PlayerSelected() {
   if (GridEX1_->Row() < 1 || !GridEX2_->CommitRow()) return;
   const Value playerID = GridEX1_->Value("PlayerID");
   GridEX2_->SetRecordset(nullptr);
-  data_->scores.Open(
-      "SELECT PlayerID, Category, SanctionID, Shoes, Ringers, (Ringers / Shoes * 100) AS Pct, "
-      "Wins, Losses, Place, HiGame FROM PlayerScores WHERE PlayerID = ?",
-      data_->connection, Recordset::Lock::Optimistic, {playerID});
+  data_->scores = OpenHistory(data_->connection, playerID);
   data_->keys = data_->scores.Clone();
   const QString name =
       GridEX1_->Value("LastName").ToText() + u' ' + GridEX1_->Value("FirstName").ToText();

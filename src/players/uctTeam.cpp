@@ -10,6 +10,7 @@
 #include "data/Recordset.h"
 #include "players/PlayerList.h"
 #include "players/PlayerNames.h"
+#include "players/PlayerRows.h"
 #include "shell/Labels.h"
 #include "shell/MessageBar.h"
 #include "shell/Operator.h"
@@ -123,8 +124,7 @@ void uctTeam::UserControl_Show() {
   data_->connection.Open(ConnectString);
   ForgetTeam();
   LoadPool();
-  data_->teams.Open("SELECT * FROM Teams ORDER BY Team", data_->connection,
-                    Recordset::Lock::Optimistic);
+  data_->teams = OpenTeams(data_->connection);
   GridEX1_->SetRecordset(&data_->teams);
   GridEX1_->setFocus();
 }
@@ -208,8 +208,7 @@ void uctTeam::ListSelected() {
   if (GridEX1_->Row() < 1 || !GridEX1_->CommitRow()) return;
   ForgetTeam();
   const Value teamID = GridEX1_->Value("TeamID");
-  data_->members.Open("SELECT TeamID, PlayerID FROM TeamPlayers WHERE TeamID = ? ORDER BY PlayerID",
-                      data_->connection, Recordset::Lock::Optimistic, {teamID});
+  data_->members = OpenTeamPlayers(data_->connection, teamID);
   data_->teamID = teamID;
   GridEX3_->SetEmptyText(
       "Nobody plays on this team yet. Press Enter in the player list to add a player.");

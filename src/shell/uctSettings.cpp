@@ -73,9 +73,7 @@ void uctSettings::LayOut() {
 void uctSettings::UserControl_Show() {
   data_ = std::make_unique<Data>();
   data_->connection.Open(ConnectString);
-  data_->settings.Open(
-      "SELECT * FROM SystemSettings WHERE SettingID NOT IN (0, 8) ORDER BY SettingID",
-      data_->connection, Recordset::Lock::Optimistic);
+  data_->settings = OpenShownSettings(data_->connection);
   grdSettings_->SetRecordset(&data_->settings);
   grdSettings_->ClearCol();
   grdSettings_->setFocus();

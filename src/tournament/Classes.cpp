@@ -1,7 +1,6 @@
 #include "tournament/Classes.h"
 
 #include "data/Connection.h"
-#include "data/Recordset.h"
 
 namespace tavrelin {
 
@@ -51,6 +50,13 @@ QList<ClassRules> ClassesOf(Connection& connection, const QString& sanctionID,
                             const QString& playFormat) {
   return Read(connection, u"AND PlayFormat = ? ORDER BY ClassID"_s,
               {sanctionID.trimmed(), playFormat});
+}
+
+Recordset OpenClasses(Connection& connection, const QString& sanctionID) {
+  Recordset rows;
+  rows.Open(u"SELECT * FROM TournamentClasses WHERE SanctionID = ?"_s, connection,
+            Recordset::Lock::Optimistic, {sanctionID});
+  return rows;
 }
 
 QList<CodeText> ClassChoices(const QList<ClassRules>& classes, const QString& between) {

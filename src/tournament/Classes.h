@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "basic/CodeText.h"
+#include "data/Recordset.h"
 
 namespace tavrelin {
 
@@ -32,6 +33,9 @@ QList<ClassRules> ClassesOf(Connection& connection, const QString& sanctionID);
 /// Those of them that are played in one format, "S" or "D".
 QList<ClassRules> ClassesOf(Connection& connection, const QString& sanctionID,
                             const QString& playFormat);
+
+/// The classes of a tournament, to be edited; the connection must outlive them.
+Recordset OpenClasses(Connection& connection, const QString& sanctionID);
 
 /// Classes to choose from: the class's ID as the code, its ID and name as the text. `between`
 /// stands between the two; it is left out, with the name, where a class has none.

@@ -3,16 +3,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "basic/Conversions.h"
 #include "controls/GridEX.h"
 #include "controls/TypedSearch.h"
-#include "data/Connection.h"
-#include "players/PlayerNames.h"
-#include "players/Vocabulary.h"
 #include "shell/Labels.h"
 #include "shell/SideBySide.h"
 #include "tournament/Classes.h"
-#include "tournament/Entries.h"
 
 namespace tavrelin {
 
@@ -69,42 +64,21 @@ void EntrySide::LayOut() {
 
 void EntrySide::ShowList(Connection& connection) {
   list_->SetRecordset(nullptr);
-  listRows_.Open(kind_.listQuery, connection);
+  listRows_ = EntrantList(connection, kind_.kind);
   list_->SetRecordset(&listRows_);
 }
 
-void EntrySide::ShowEntries(Connection& connection, const QString& sanctionID,
-                            const QString& columns) {
+void EntrySide::ShowEntries(Connection& connection, const QString& sanctionID, EntryFields fields) {
   entries_->SetRecordset(nullptr);
-  entryRows_.Open("SELECT " + (columns.isEmpty() ? kind_.entryColumnsQuery : columns) + " FROM " +
-                      kind_.entryTable + " e WHERE e.SanctionID = '" + EscapeQuotes(sanctionID) +
-                      "' ",
-                  connection, Recordset::Lock::Optimistic);
+  entryRows_ = OpenEntries(connection, kind_.kind, sanctionID, fields);
   entryKeys_ = entryRows_.Clone();
-  NameEntrants(connection, sanctionID);
+  const EntrantTexts texts = TextsOf(connection, kind_.kind, entryKeys_);
+  entries_->SetValueList(EntrantField(kind_.kind), texts.names);
+  entries_->SetValueList("Category", texts.divisions);
   LetEditWhatIsRead();
   entries_->SetRecordset(&entryRows_);
   entries_->AddSortKey("ClassID", SortOrder::Ascending);
   entries_->AddSortKey("RingerPercent", SortOrder::Descending);
-}
-
-// Names for those who are entered alone; one who has left the roster is told by his number.
-void EntrySide::NameEntrants(Connection& connection, const QString& sanctionID) {
-  Recordset rows;
-  rows.Open(kind_.namesQuery, connection, Recordset::Lock::ReadOnly, {sanctionID});
-  ValueList names, categories;
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    names.Add(rows.At(0), rows.At(1).ToText());
-    categories.Add(rows.At(0), EntryDivisionText(rows.At(2).ToText()));
-  }
-  for (int position = 1; position <= entryKeys_.RecordCount(); ++position) {
-    const Value entrant = entryKeys_.CellAt(position, entryKeys_.FieldIndex(kind_.entrantField));
-    if (names.IndexOf(entrant) >= 0) continue;
-    names.Add(entrant, NotOnFile(entrant.ToText()));
-    categories.Add(entrant, EntryDivisionText({}));
-  }
-  entries_->SetValueList(kind_.entrantField, names);
-  entries_->SetValueList("Category", categories);
 }
 
 // What is typed into a column whose field was not read could not be stored.
@@ -115,14 +89,14 @@ void EntrySide::LetEditWhatIsRead() {
 }
 
 void EntrySide::OfferClasses(Connection& connection, const QString& sanctionID) {
-  const QList<ClassRules> classes = ClassesOf(connection, sanctionID, kind_.playFormat);
+  const QList<ClassRules> classes = ClassesOf(connection, sanctionID, PlayFormatOf(kind_.kind));
   entries_->SetValueList("ClassID", ClassChoices(classes, "   "));
 }
 
 void EntrySide::GoToPayment(const QString& entrant) {
   entries_->setFocus();
   for (int row = 1; row <= entries_->RowCount(); ++row) {
-    if (entries_->ValueAt(row, kind_.entrantField).Trimmed() != entrant) continue;
+    if (entries_->ValueAt(row, EntrantField(kind_.kind)).Trimmed() != entrant) continue;
     entries_->SetRow(row);
     entries_->SetCol("Paid");
     return;

@@ -7,6 +7,7 @@
 #include "controls/GridColumn.h"
 #include "controls/GridEvents.h"
 #include "data/Recordset.h"
+#include "tournament/EntryRows.h"
 
 namespace tavrelin {
 
@@ -16,17 +17,11 @@ class TypedSearch;
 
 /// What makes one tab of the entries screen the tab it is.
 struct EntrySideKind {
+  EntryKind kind = EntryKind::Players;
   QString listName, listLabel, listCaption;  ///< of the grid to choose from and its heading
   QString entriesName, entriesLabel, entriesCaption;  ///< of the grid of what is entered
   QList<GridColumn> listColumns, entryColumns;
-  QString listQuery;
-  QString entryTable;
-  QString entryColumnsQuery;  ///< what is read of an entry when a tournament is chosen
-  QString entrantField;       ///< "PlayerID" or "TeamID"
-  QString namesQuery;   ///< entrant, name and category of all in a tournament; its number is the
-                        ///< parameter
   QString searchField;  ///< of the list, what typing looks for
-  QString playFormat;   ///< of the classes that are offered
   QString listEmptyText, entriesEmptyText;
 };
 
@@ -51,8 +46,8 @@ class EntrySide : public QWidget {
 
   void ShowList(Connection& connection);
   /// The entries of a tournament in the working order of the screen: by class, the strongest first.
-  /// `columns` is what to read of an entry; empty for all the grid shows.
-  void ShowEntries(Connection& connection, const QString& sanctionID, const QString& columns = {});
+  void ShowEntries(Connection& connection, const QString& sanctionID,
+                   EntryFields fields = EntryFields::All);
   void OfferClasses(Connection& connection, const QString& sanctionID);
   /// The cursor on the first row of an entrant, ready for the fee.
   void GoToPayment(const QString& entrant);
@@ -69,7 +64,6 @@ class EntrySide : public QWidget {
   void Entries_KeyDown(GridKeyDown& event);
   void Entries_ColumnHeaderClick(const QString& column);
   bool IsFirstCell() const;
-  void NameEntrants(Connection& connection, const QString& sanctionID);
   void LetEditWhatIsRead();
 
   EntrySideKind kind_;

@@ -2,7 +2,6 @@
 
 #include "basic/SanctionNumber.h"
 #include "data/Connection.h"
-#include "data/Recordset.h"
 
 namespace tavrelin {
 
@@ -36,6 +35,13 @@ std::optional<Tournament> FindTournament(Connection& connection, const QString& 
             {sanctionID.trimmed()});
   if (rows.AtEnd()) return std::nullopt;
   return TournamentAt(rows);
+}
+
+Recordset OpenTournaments(Connection& connection) {
+  Recordset rows;
+  rows.Open(u"SELECT * FROM Tournaments ORDER BY Date DESC"_s, connection,
+            Recordset::Lock::Optimistic);
+  return rows;
 }
 
 }  // namespace tavrelin

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include "data/Recordset.h"
+
 namespace tavrelin {
 
 class Connection;
@@ -24,5 +26,8 @@ QList<Tournament> AllTournaments(Connection& connection);
 
 /// A tournament by its number, in whatever case; nothing when the file holds none of it.
 std::optional<Tournament> FindTournament(Connection& connection, const QString& sanctionID);
+
+/// The tournaments, the latest first, to be edited; the connection must outlive them.
+Recordset OpenTournaments(Connection& connection);
 
 }  // namespace tavrelin

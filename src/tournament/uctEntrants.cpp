@@ -26,11 +26,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What "Update % from Profile" shows again of the entries: shoes and ringers stand empty until the
-// tournament is chosen anew.
-constexpr const char* ColumnsAfterUpdate =
-    "e.SanctionID, e.PlayerID, e.Paid, e.Seed, e.RingerPercent, e.ClassID";
-
 EntrySideKind SinglesKind() {
   EntrySideKind kind;
   kind.listName = "GridEX1";
@@ -59,22 +54,7 @@ EntrySideKind SinglesKind() {
       NumberColumn(u"Rgrs"_s, u"TotalRingers"_s, 550).Keyed(u"Ringers"_s),
       HiddenColumn(u"RankOverride"_s).Defaulted(0),
   };
-  kind.listQuery =
-      "SELECT PlayerID, RTRIM(LastName) + ', ' + FirstName AS PlayerName, LastName, FirstName, "
-      "Category, Average, "
-      "CardNumber, State, CardYear FROM Players ORDER BY LastName, FirstName";
-  kind.entryTable = "TournamentEntrants";
-  kind.entryColumnsQuery =
-      "e.SanctionID, e.PlayerID, e.Paid, e.Seed, e.RingerPercent, e.ClassID, e.TotalShoes, "
-      "e.TotalRingers, "
-      "e.RankOverride";
-  kind.entrantField = "PlayerID";
-  kind.namesQuery =
-      "SELECT p.PlayerID, RTRIM(p.LastName) + ', ' + p.FirstName, p.Category FROM "
-      "TournamentEntrants e, Players p "
-      "WHERE e.SanctionID = ? AND e.PlayerID = p.PlayerID";
   kind.searchField = "LastName";
-  kind.playFormat = "S";
   kind.listEmptyText = "No players on the roster yet. Add them under Players / Profile.";
   kind.entriesEmptyText = "Choose a tournament, then press Enter on a player to enter that player.";
   return kind;
@@ -82,6 +62,7 @@ EntrySideKind SinglesKind() {
 
 EntrySideKind DoublesKind() {
   EntrySideKind kind;
+  kind.kind = EntryKind::Teams;
   kind.listName = "GridEX3";
   kind.listLabel = "Label5";
   kind.listCaption = "Team List";
@@ -100,17 +81,7 @@ EntrySideKind DoublesKind() {
       PercentColumn(u"%"_s, u"RingerPercent"_s, 650).Pictured(u"##0.00"_s),
       ListColumn(u"Class"_s, u"ClassID"_s, 1600),
   };
-  kind.listQuery = "SELECT TeamID, Team FROM Teams ORDER BY Team";
-  kind.entryTable = "TournamentTeamEntrants";
-  kind.entryColumnsQuery =
-      "e.SanctionID, e.TeamID, e.Paid, e.Seed, e.RingerPercent, e.ClassID, e.PlayerOneID, "
-      "e.PlayerTwoID";
-  kind.entrantField = "TeamID";
-  kind.namesQuery =
-      "SELECT t.TeamID, t.Team, '' FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? "
-      "AND e.TeamID = t.TeamID";
   kind.searchField = "Team";
-  kind.playFormat = "D";
   kind.listEmptyText = "No teams yet. Add them under Players / Teams.";
   kind.entriesEmptyText = "Choose a tournament, then press Enter on a team to enter it.";
   return kind;
@@ -274,7 +245,8 @@ void uctEntrants::cmdSetAverage_Click() {
   }
   if (!CommitEntries()) return;
   UpdatePlayerAverages(*connection_, sanctionID_);
-  singles_->ShowEntries(*connection_, sanctionID_, ColumnsAfterUpdate);
+  // Shoes and ringers stand empty until the tournament is chosen once more.
+  singles_->ShowEntries(*connection_, sanctionID_, EntryFields::WithoutShoes);
   const RowCheck teams = UpdateTeamAverages(*connection_, sanctionID_);
   doubles_->ShowEntries(*connection_, sanctionID_);
   if (teams.verdict != RowCheck::Verdict::Save) return Refuse(teams.message);

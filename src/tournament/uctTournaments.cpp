@@ -15,7 +15,9 @@
 #include "shell/Operator.h"
 #include "shell/Store.h"
 #include "shell/StoredValues.h"
+#include "tournament/Classes.h"
 #include "tournament/TournamentChecks.h"
+#include "tournament/Tournaments.h"
 
 namespace tavrelin {
 
@@ -146,8 +148,7 @@ void uctTournaments::LayOut() {
 void uctTournaments::UserControl_Show() {
   data_ = std::make_unique<Data>();
   data_->tournamentFile.Open(ConnectString);
-  data_->tournaments.Open("SELECT * FROM Tournaments ORDER BY Date DESC", data_->tournamentFile,
-                          Recordset::Lock::Optimistic);
+  data_->tournaments = OpenTournaments(data_->tournamentFile);
   data_->tournamentKeys = data_->tournaments.Clone();
   GridEX1_->SetRecordset(&data_->tournaments);
   GridEX1_->AddSortKey("Date", SortOrder::Descending);
@@ -251,8 +252,7 @@ void uctTournaments::BindClasses() {
   GridEX2_->SetRecordset(nullptr);
   data_->classFile.Close();
   data_->classFile.Open(ConnectString);
-  data_->classes.Open("SELECT * FROM TournamentClasses WHERE SanctionID = ?", data_->classFile,
-                      Recordset::Lock::Optimistic, {sanctionID_});
+  data_->classes = OpenClasses(data_->classFile, sanctionID_);
   data_->classKeys = data_->classes.Clone();
   GridEX2_->SetEmptyText(NoClasses);
   GridEX2_->SetRecordset(&data_->classes);
