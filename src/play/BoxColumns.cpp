@@ -1,100 +1,140 @@
 #include "play/BoxColumns.h"
 
 #include "basic/ScoreTexts.h"
-#include "play/BoxScores.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-using Figure = BoxFigure;
+const QString Three = u"##0"_s;
+const QString Four = u"###0"_s;
+const QString Hundredths = u"#0.00"_s;
 
-const QString Three = QStringLiteral("##0");
-const QString Four = QStringLiteral("###0");
-const QString Percent = QStringLiteral("#0.00");
+using Figure = CellOf<BoxFigures>;
 
-Cell FigureCell(const BoxFigures& figures, const BoxColumn& column, const QString& picture) {
-  switch (column.figure) {
-    case Figure::Score:
-      return NumberCell(figures.points, picture);
-    case Figure::Shoes:
-      return NumberCell(figures.shoes, picture);
-    case Figure::Ringers:
-      return NumberCell(figures.ringers.value(column.thrower), picture);
-    case Figure::Percent:
-      return NumberCell(figures.percents.value(column.thrower), picture);
-    case Figure::Opponent:
-    case Figure::Forfeit:
-      break;
-  }
-  return {};
+Figure Points(const QString& picture) {
+  return FigureOf(&BoxFigures::points, picture);
+}
+
+Figure Shoes(const QString& picture) {
+  return FigureOf(&BoxFigures::shoes, picture);
+}
+
+/// Of the first or the second player of a side.
+Figure Ringers(qsizetype player, const QString& picture) {
+  return [=](const BoxFigures& all) { return NumberCell(all.ringers.value(player), picture); };
+}
+
+Figure Percent(qsizetype player) {
+  return [=](const BoxFigures& all) { return NumberCell(all.percents.value(player), Hundredths); };
+}
+
+CellOf<BoxLine> Own(const Figure& figure) {
+  return [figure](const BoxLine& game) { return figure(game.own); };
+}
+
+CellOf<BoxScore> Total(const Figure& figure) {
+  return [figure](const BoxScore& block) { return figure(block.totals); };
+}
+
+Cell Score(const BoxLine& game) {
+  return TextCell(u"%1/%2"_s.arg(game.own.points).arg(game.opposingPoints));
+}
+
+/// A column of a text file that is as wide as that, whatever stands in it; the last one ends with
+/// its text.
+TextForm Wide(const QString& heading, int width, int tab = 0) {
+  return {heading.leftJustified(width), QString(heading.size(), u'-').leftJustified(width),
+          [width](const Cell& cell) { return Padded(cell).leftJustified(width); }, 0, tab};
+}
+
+BoxLayout MakeSinglesBox() {
+  return {200,
+          450,
+          5200,
+          2900,
+          5400,
+          2,
+          5700,
+          14800,
+          14800,
+          {{{{u"Opponent"_s, 700, 600}, NameOf(&BoxLine::opponent)}},
+           {{{{}, 2700, 2700}, TextOf(&BoxLine::forfeitMark)}},
+           {{{u"Score"_s, 3100, 3100}, Score}, 3100, Total(Points(Four))},
+           {{{u"R"_s, 4000, 3850}, Own(Ringers(0, Three))}, 3750, Total(Ringers(0, Four))},
+           {{{u"Sh"_s, 4500, 4400}, Own(Shoes(Three))}, 4300, Total(Shoes(Four))},
+           {{{u"%"_s, 5100, 4900}, Own(Percent(0))}, 4900, Total(Percent(0))}}};
+}
+
+BoxColumn TeamColumn(const ColumnPlace& place, const Figure& figure, int textWidth) {
+  return {{place, Own(figure), Wide(place.heading, textWidth)}, place.cellX, Total(figure)};
+}
+
+BoxLayout MakeDoublesBox() {
+  return {700,
+          950,
+          10200,
+          4600,
+          10100,
+          1,
+          0,
+          15200,
+          14800,
+          {{{{u"Opponent"_s, 1200, 1100}, NameOf(&BoxLine::opponent), Wide(u"Opponent"_s, 40, 6)}},
+           {{{u"Score"_s, 4600, 4600}, Score, Wide(u"Score"_s, 10)}, 4600, Total(Points(Four))},
+           TeamColumn({u"Sh"_s, 5700, 5600}, Shoes(Three), 6),
+           TeamColumn({u"A-Rgr"_s, 6600, 6600}, Ringers(0, Three), 8),
+           TeamColumn({u"A-%"_s, 7700, 7600}, Percent(0), 9),
+           TeamColumn({u"B-Rgr"_s, 8600, 8600}, Ringers(1, Three), 8),
+           TeamColumn({u"B-%"_s, 9700, 9600}, Percent(1), 0)}};
 }
 
 }  // namespace
 
 const BoxLayout& SinglesBox() {
-  static const BoxLayout layout = {
-      200,
-      450,
-      5200,
-      2900,
-      5400,
-      2,
-      5700,
-      {14800, 14800},
-      {{Figure::Opponent, 0, {"Opponent", 700, 600}, {}, 0, {}},
-       {Figure::Forfeit, 0, {{}, 2700, 2700}, {}, 0, {}},
-       {Figure::Score, 0, {"Score", 3100, 3100}, {}, 3100, Four},
-       {Figure::Ringers, 0, {"R", 4000, 3850}, Three, 3750, Four},
-       {Figure::Shoes, 0, {"Sh", 4500, 4400}, Three, 4300, Four},
-       {Figure::Percent, 0, {"%", 5100, 4900}, Percent, 4900, Percent}}};
+  static const BoxLayout layout = MakeSinglesBox();
   return layout;
 }
 
 const BoxLayout& DoublesBox() {
-  static const BoxLayout layout = {
-      700,
-      950,
-      10200,
-      4600,
-      10100,
-      1,
-      0,
-      {15200, 14800},
-      {{Figure::Opponent, 0, {"Opponent", 1200, 1100}, {}, 0, {}},
-       {Figure::Score, 0, {"Score", 4600, 4600}, {}, 4600, Four},
-       {Figure::Shoes, 0, {"Sh", 5700, 5600}, Three, 5600, Three},
-       {Figure::Ringers, 0, {"A-Rgr", 6600, 6600}, Three, 6600, Three},
-       {Figure::Percent, 0, {"A-%", 7700, 7600}, Percent, 7600, Percent},
-       {Figure::Ringers, 1, {"B-Rgr", 8600, 8600}, Three, 8600, Three},
-       {Figure::Percent, 1, {"B-%", 9700, 9600}, Percent, 9600, Percent}}};
+  static const BoxLayout layout = MakeDoublesBox();
   return layout;
 }
 
 QString BoxTitle(const BoxScore& block) {
-  QString title =
-      block.name + QStringLiteral("   ") + HalfWinText(block.won) + u'-' + HalfWinText(block.loss);
+  QString title = block.name + u"   "_s + HalfWinText(block.won) + u'-' + HalfWinText(block.loss);
   if (block.throwers.size() > 1) {
-    title += QStringLiteral("   (A. - %1;  B. - %2)").arg(block.throwers[0], block.throwers[1]);
+    title += u"   (A. - %1;  B. - %2)"_s.arg(block.throwers[0], block.throwers[1]);
   }
   return title;
 }
 
-Cell BoxCell(const BoxLine& line, const BoxColumn& column) {
-  switch (column.figure) {
-    case Figure::Opponent:
-      return NameCell(line.opponent);
-    case Figure::Forfeit:
-      return TextCell(line.forfeitMark);
-    case Figure::Score:
-      return TextCell(QStringLiteral("%1/%2").arg(line.own.points).arg(line.opposingPoints));
-    default:
-      return FigureCell(line.own, column, column.picture);
-  }
+QList<ColumnPlace> PlacesOf(const BoxLayout& layout) {
+  QList<ColumnPlace> places;
+  for (const BoxColumn& column : layout.columns) places << column.game.place;
+  return places;
 }
 
-Cell BoxTotalCell(const BoxScore& block, const BoxColumn& column) {
-  if (column.totalPicture.isEmpty()) return {};
-  return FigureCell(block.totals, column, column.totalPicture);
+QList<TextForm> TextFormsOf(const BoxLayout& layout) {
+  QList<TextForm> forms;
+  for (const BoxColumn& column : layout.columns) forms << column.game.text;
+  return forms;
+}
+
+QList<Cell> GameCells(const BoxLayout& layout, const BoxLine& game) {
+  QList<Cell> cells;
+  for (const BoxColumn& column : layout.columns) cells << column.game.cell(game);
+  return cells;
+}
+
+QList<Cell> TotalCells(const BoxLayout& layout, const BoxScore& block) {
+  QList<Cell> cells;
+  for (const BoxColumn& column : layout.columns) {
+    cells << (column.total ? column.total(block) : Cell());
+  }
+  return cells;
 }
 
 }  // namespace tavrelin

@@ -2,25 +2,17 @@
 
 #include <QList>
 
-#include "print/Layout.h"
+#include "play/BoxScores.h"
+#include "print/ReportTable.h"
 
 namespace tavrelin {
 
-struct BoxLine;
-struct BoxScore;
-
-/// What a column of a box score shows. Thrower counts from 0.
-enum class BoxFigure { Opponent, Forfeit, Score, Shoes, Ringers, Percent };
-
-/// A column of the box scores. X are from the block's left edge; `totalPicture` is empty where
-/// nothing is added up.
+/// A column of the box scores: what a game shows in it, and what all games together. X are from the
+/// block's left edge.
 struct BoxColumn {
-  BoxFigure figure;
-  int thrower = 0;
-  Column place;  ///< heading, and the base of a game's cell
-  QString picture;
+  ReportColumn<BoxLine> game;
   int totalX = 0;
-  QString totalPicture;
+  CellOf<BoxScore> total = {};  ///< nothing where nothing is added up
 };
 
 /// Where a block's parts stand.
@@ -30,19 +22,23 @@ struct BoxLayout {
   int nameRoom;
   int ruleFrom;
   int ruleTo;
-  int across;       ///< blocks side by side
-  int blockOffset;  ///< from one block to its right neighbor
-  PageBreak page;
+  int across;        ///< blocks side by side
+  int blockOffset;   ///< from one block to its right neighbor
+  int printerLimit;  ///< a page is full when a block would end beyond it...
+  int previewLimit;  ///< ...in the preview when it would reach it
   QList<BoxColumn> columns;
 };
 
 const BoxLayout& SinglesBox();
 const BoxLayout& DoublesBox();
 
-/// The line over a block behind its place: name, wins and losses, and a team's two players.
+/// The line over a block after its place: name, wins and losses, and a team's two players.
 QString BoxTitle(const BoxScore& block);
-Cell BoxCell(const BoxLine& line, const BoxColumn& column);
-/// Empty where the column adds nothing up.
-Cell BoxTotalCell(const BoxScore& block, const BoxColumn& column);
+
+QList<ColumnPlace> PlacesOf(const BoxLayout& layout);
+QList<TextForm> TextFormsOf(const BoxLayout& layout);
+/// One cell a column; an empty one where the column adds nothing up.
+QList<Cell> GameCells(const BoxLayout& layout, const BoxLine& game);
+QList<Cell> TotalCells(const BoxLayout& layout, const BoxScore& block);
 
 }  // namespace tavrelin

@@ -4,7 +4,33 @@
 #include "play/CardJob.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
+
 namespace {
+
+constexpr int RowHeight = 400;
+constexpr int FirstColumnEnd = 1000;
+
+TableForm FormOf(const QList<int>& verticals) {
+  TableForm form;
+  form.headHeight = RowHeight;
+  form.headingsDrop = 100;
+  form.rowHeight = RowHeight;
+  form.textDrop = 100;
+  form.size = 12;
+  form.underlined = false;
+  form.ruling = Ruling{verticals, RowHeight, 2};
+  return form;
+}
+
+CardGrid GridOf(const QList<int>& verticals, const QList<ColumnPlace>& games,
+                const QList<int>& byeX) {
+  CardGrid grid{FormOf(verticals), {verticals, RowHeight, 2}, games, games};
+  grid.totals.verticals.removeOne(FirstColumnEnd);
+  for (qsizetype i = 0; i < byeX.size(); ++i) grid.byes[i].cellX = byeX[i];
+  return grid;
+}
 
 QString TournamentText(const CardJob& job) {
   return job.tournament + QStringLiteral("    ") + Value(job.date).ToText();
@@ -17,37 +43,39 @@ void AddIf(QList<CardText>& line, bool wanted, int x, const QString& caption, in
 }  // namespace
 
 const CardGrid& SinglesGrid() {
-  static const CardGrid grid = {10700,
-                                {4400, 5200, 6600, 8000, 8900, 9800},
-                                {{300, "Game"},
-                                 {1500, "Opponent"},
-                                 {4500, "Court"},
-                                 {5500, "Score"},
-                                 {6900, "Ringers"},
-                                 {8200, "Dbls"},
-                                 {9000, "Shoes"},
-                                 {10000, "Rgr%"}},
-                                4600,
-                                {5850, 7250},
-                                {4600, 5850, 7250, 8450, 9450, 10450}};
+  static const CardGrid grid = GridOf({200, 1000, 4400, 5200, 6600, 8000, 8900, 9800, 10700},
+                                      {{u"Game"_s, 300, 400},
+                                       {u"Opponent"_s, 1500, 1200},
+                                       {u"Court"_s, 4500, 4600},
+                                       {u"Score"_s, 5500, 5850},
+                                       {u"Ringers"_s, 6900, 7250},
+                                       {u"Dbls"_s, 8200, 8450},
+                                       {u"Shoes"_s, 9000, 9450},
+                                       {u"Rgr%"_s, 10000, 10450}},
+                                      {});
   return grid;
 }
 
 const CardGrid& DoublesGrid() {
-  static const CardGrid grid = {11200,
-                                {5400, 6200, 7500, 8800, 9600, 10400},
-                                {{300, "Game"},
-                                 {1500, "Opponent"},
-                                 {5500, "Court"},
-                                 {6500, "Score"},
-                                 {7700, "Ringers"},
-                                 {8950, "Dbls"},
-                                 {9650, "Shoes"},
-                                 {10550, "Rgr%"}},
-                                5600,
-                                {6850, 8150},
-                                {5700, 6800, 8050, 9100, 9950, 10700}};
+  static const CardGrid grid = GridOf({200, 1000, 5400, 6200, 7500, 8800, 9600, 10400, 11200},
+                                      {{u"Game"_s, 300, 400},
+                                       {u"Opponent"_s, 1500, 1200},
+                                       {u"Court"_s, 5500, 5600},
+                                       {u"Score"_s, 6500, 6850},
+                                       {u"Ringers"_s, 7700, 8150},
+                                       {u"Dbls"_s, 8950},
+                                       {u"Shoes"_s, 9650},
+                                       {u"Rgr%"_s, 10550}},
+                                      {400, 1200, 5700, 6800, 8050, 9100, 9950, 10700});
   return grid;
+}
+
+QList<Cell> CardCells(const CardLine& line) {
+  QList<Cell> cells = {TextCell(QString::number(line.game))};
+  if (line.bye) return cells << TextCell(u"X. BYE"_s) << QList<Cell>(6, TextCell(u"X"_s));
+  const QString number = line.opponentNumber == 0 ? QString() : u"%1. "_s.arg(line.opponentNumber);
+  const Cell slash = TextCell(u"/"_s);
+  return cells << NameCell(number + line.opponent) << TextCell(line.court) << slash << slash;
 }
 
 QString CardHeading(const Card& card) {

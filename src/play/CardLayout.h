@@ -3,10 +3,13 @@
 #include <QList>
 #include <QString>
 
+#include "print/ReportTable.h"
+
 namespace tavrelin {
 
 struct Card;
 struct CardJob;
+struct CardLine;
 
 // Where everything stands on a card: twips, before the card is moved to its place on the sheet.
 
@@ -16,29 +19,24 @@ struct CardText {
   QString text;
 };
 
-/// The grid of a card's back. Its rows stand `CardGrid::RowHeight` apart.
+/// The grid of a card's back: a band of headings, a row for each game that a card has room for, and
+/// the totals.
 struct CardGrid {
-  static constexpr int Left = 200;
   static constexpr int Top = 6200;
-  static constexpr int Bottom = 11400;
-  static constexpr int TotalsTop = 11000;
-  static constexpr int RowHeight = 400;
-  static constexpr int HeadingY = 6300;
+  static constexpr int Games = 11;
   static constexpr int TotalsY = 11100;
-  static constexpr int GameX = 400;
-  static constexpr int OpponentX = 1200;
-  static constexpr int GameRule = 1000;  ///< ends above the totals, which have no game number
 
-  int right;
-  QList<int> rules;  ///< verticals over the whole grid
-  QList<CardText> headings;
-  int courtX;
-  QList<int> slashX;  ///< between score and score, and ringers and ringers
-  QList<int> byeX;    ///< one "X" a cell
+  TableForm form;
+  Ruling totals;  ///< of the last row, which has no game number
+  QList<ColumnPlace> games;
+  QList<ColumnPlace> byes;  ///< the same columns in the row of a bye
 };
 
 const CardGrid& SinglesGrid();
 const CardGrid& DoublesGrid();
+
+/// The row of a game, or of a bye.
+QList<Cell> CardCells(const CardLine& line);
 
 /// "3.Ann Stone"; for a team "3A.Ann Stone  B.Bob Hill".
 QString CardHeading(const Card& card);

@@ -17,7 +17,6 @@ constexpr int TurnedFirstY = 4300;
 constexpr int TurnedSecondY = 3000;
 constexpr int HeadingY = 4600;
 constexpr int InformationY = 5800;
-constexpr int Gap = 40;      // between a text and the rule to its right
 constexpr int WordGap = 90;  // and the next text of its line
 constexpr int Margin = 360;  // of the paper, where no printer prints
 
@@ -35,7 +34,6 @@ CardPrinter::CardPrinter(OutputTarget& target, const CardJob& job, Orientation p
       information_(information),
       paperWidth_(WidthOf(paper)) {
   target_.SetOrientation(paper);
-  target_.SetDrawWidth(2);
 }
 
 int CardPrinter::X(int x) const {
@@ -111,49 +109,26 @@ void CardPrinter::InformationLine(const Card& card) {
 }
 
 void CardPrinter::Grid() {
-  const int left = X(CardGrid::Left);
-  const int right = X(grid_.right);
-  const int top = Y(CardGrid::Top);
-  const int bottom = Y(CardGrid::Bottom);
-  target_.Box(left, top, right, bottom);
-  for (int y = top + CardGrid::RowHeight; y < bottom; y += CardGrid::RowHeight) {
-    target_.Line(left, y, right, y);
-  }
-  target_.Line(X(CardGrid::GameRule), top, X(CardGrid::GameRule), Y(CardGrid::TotalsTop));
-  for (const int x : grid_.rules) target_.Line(X(x), top, X(x), bottom);
-  for (const CardText& heading : grid_.headings) {
-    PrintAt(heading.x, CardGrid::HeadingY, heading.text);
-  }
+  const TableForm& form = grid_.form;
+  int y = Y(CardGrid::Top);
+  DrawBand(target_, *form.ruling, X(0), y);
+  PrintHeadings(target_, grid_.games, form, X(0), y + form.headingsDrop);
+  y += form.headHeight;
+  DrawRows(target_, *form.ruling, X(0), y, form.rowHeight, CardGrid::Games);
+  y += CardGrid::Games * form.rowHeight;
+  DrawRows(target_, grid_.totals, X(0), y, form.rowHeight);
   PrintAt(300, CardGrid::TotalsY, QStringLiteral("Totals"));
   PrintAt(1500, CardGrid::TotalsY, QStringLiteral("Wins:"));
   PrintAt(2800, CardGrid::TotalsY, QStringLiteral("Losses:"));
 }
 
 void CardPrinter::Rows(const Card& card) {
-  int y = CardGrid::HeadingY;
+  const TableForm& form = grid_.form;
+  int y = Y(CardGrid::Top) + form.headHeight + form.textDrop;
   for (const CardLine& line : card.lines) {
-    y += CardGrid::RowHeight;
-    PrintAt(CardGrid::GameX, y, QString::number(line.game));
-    if (line.bye) {
-      ByeRow(y);
-    } else {
-      GameRow(line, y);
-    }
+    PrintCells(target_, line.bye ? grid_.byes : grid_.games, form, CardCells(line), X(0), y);
+    y += form.rowHeight;
   }
-}
-
-void CardPrinter::GameRow(const CardLine& line, int y) {
-  const QString number =
-      line.opponentNumber == 0 ? QString() : QStringLiteral("%1. ").arg(line.opponentNumber);
-  PrintWithin(CardGrid::OpponentX, y, grid_.rules.first() - CardGrid::OpponentX - Gap,
-              number + line.opponent);
-  PrintAt(grid_.courtX, y, line.court);
-  for (const int x : grid_.slashX) PrintAt(x, y, QStringLiteral("/"));
-}
-
-void CardPrinter::ByeRow(int y) {
-  PrintAt(CardGrid::OpponentX, y, QStringLiteral("X. BYE"));
-  for (const int x : grid_.byeX) PrintAt(x, y, QStringLiteral("X"));
 }
 
 }  // namespace tavrelin

@@ -6,7 +6,6 @@
 namespace tavrelin {
 
 class OutputTarget;
-struct CardLine;
 
 /// Draws the faces of cards where the job's adjustments put them. What the styles do differently it
 /// is told: the paper, and what stands in the information line.
@@ -35,8 +34,6 @@ class CardPrinter {
   void InformationLine(const Card& card);
   void Grid();
   void Rows(const Card& card);
-  void GameRow(const CardLine& line, int y);
-  void ByeRow(int y);
 
   OutputTarget& target_;
   const CardJob& job_;

@@ -1,11 +1,8 @@
 #include "play/ResultsText.h"
 
 #include <algorithm>
-#include <array>
 
 #include "basic/Error.h"
-#include "basic/Picture.h"
-#include "basic/ScoreTexts.h"
 #include "basic/TextFile.h"
 #include "play/BoxColumns.h"
 #include "play/ClassResults.h"
@@ -14,130 +11,8 @@
 namespace tavrelin {
 namespace {
 
-using Figure = StandingFigure;
-
 QString Blanks(int count) {
   return QString(count, u' ');
-}
-
-/// A column of the standings in a text file: what leads it and what follows it.
-struct TextColumn {
-  QString heading;
-  QString dashes;
-  Figure figure;
-  QString picture;  ///< of a text or the place; empty: the figure's own
-  int blanks = 0;   ///< behind the cell
-};
-
-const QList<TextColumn>& BriefText() {
-  static const QList<TextColumn> columns = {
-      {"Pos    ", "---  ", Figure::Place, "###", 0},
-      {" Name                       ", "----------------------      ", Figure::Name,
-       "!@@@@@@@@@@@@@@@@@@@@@@@@@@@@@  ", 0},
-      {"Entry %    ", "--------     ", Figure::EntryAverage, {}, 5},
-      {"St     ", "--     ", Figure::State, "!@@@@  ", 0},
-      {"Won     ", "----    ", Figure::Won, {}, 4},
-      {"Lost    ", "----    ", Figure::Lost, {}, 3},
-      {"Pts     ", "---     ", Figure::Points, {}, 4},
-      {"Rgrs      ", "----     ", Figure::Ringers, {}, 3},
-      {"Sh      ", "---    ", Figure::Shoes, {}, 4},
-      {"R%", "-----", Figure::Percent, {}, 0},
-  };
-  return columns;
-}
-
-const QList<TextColumn>& SinglesText() {
-  static const QList<TextColumn> columns = {
-      {"Pos   ", "---   ", Figure::Place, "##", 0},
-      {" Name                    ", " ------------------      ", Figure::Name,
-       "!@@@@@@@@@@@@@@@@@@@@@@@@@@@@@", 0},
-      {"Entry %   ", "-------   ", Figure::EntryAverage, {}, 3},
-      {"Hcp  ", "---  ", Figure::Handicap, {}, 2},
-      {"Card#  ", "-----  ", Figure::Card, "!@@@@@@   ", 0},
-      {" St  ", " --  ", Figure::State, "!@@  ", 0},
-      {"Won  ", "---  ", Figure::Won, {}, 1},
-      {"Lost   ", "----   ", Figure::Lost, {}, 1},
-      {"Pts  ", "---  ", Figure::Points, {}, 1},
-      {"Rgrs ", "---- ", Figure::Ringers, {}, 1},
-      {"HToH  ", "----  ", Figure::HeadToHead, {}, 1},
-      {"OvrAvg   ", "-------  ", Figure::OverAverage, {}, 1},
-      {"Sh   ", "--   ", Figure::Shoes, "##0", 2},
-      {"R%", "--", Figure::Percent, {}, 0},
-  };
-  return columns;
-}
-
-const QList<TextColumn>& DoublesText() {
-  static const QList<TextColumn> columns = {
-      {"Pos   ", "---   ", Figure::Place, "##", 0},
-      {"Team                             ", "------------------------         ", Figure::Name,
-       "!@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@", 0},
-      {"Entry %  ", "------   ", Figure::EntryAverage, {}, 3},
-      {"Hcp   ", "---   ", Figure::Handicap, {}, 2},
-      {"Won  ", "---  ", Figure::Won, {}, 1},
-      {"Lost   ", "----   ", Figure::Lost, {}, 1},
-      {"Pts  ", "---  ", Figure::Points, {}, 1},
-      {"Rgrs ", "---- ", Figure::Ringers, {}, 1},
-      {"HToH  ", "----  ", Figure::HeadToHead, {}, 1},
-      {"OvrAvg   ", "------   ", Figure::OverAverage, {}, 1},
-      {"Sh   ", "--   ", Figure::Shoes, "##0", 2},
-      {"R%", "--", Figure::Percent, {}, 0},
-  };
-  return columns;
-}
-
-/// "3  " or "3.5" in four characters: the point of a half win stands in one column.
-QString HalfWinField(double games) {
-  const QString text = HalfWinText(games);
-  return (text.contains(u'.') ? text : text + QStringLiteral("  ")).rightJustified(4);
-}
-
-/// "1.25 " or "1.25-": decimal points in one column.
-QString OverAverageField(double figure) {
-  const QString text = OverAverageText(figure);
-  return (figure < 0 ? text : text + u' ').rightJustified(6);
-}
-
-/// A text longer than its picture pushes the line along; it stays apart from the next figure.
-QString Apart(const QString& text) {
-  return text.endsWith(u' ') ? text : text + u' ';
-}
-
-QString TextField(const StandingLine& line, const TextColumn& column) {
-  const Cell cell = StandingCell(line, column.figure);
-  switch (column.figure) {
-    case Figure::Place:
-      return Padded(NumberCell(line.place, column.picture)) + QStringLiteral(". ");
-    case Figure::Name:
-    case Figure::Card:
-    case Figure::State:
-      return Apart(Format(cell.text, column.picture));
-    case Figure::Won:
-      return HalfWinField(line.won);
-    case Figure::Lost:
-      return HalfWinField(line.loss);
-    case Figure::OverAverage:
-      return OverAverageField(line.overAverage);
-    case Figure::HeadToHead:
-      return u' ' + cell.text;
-    default:
-      return Padded(column.picture.isEmpty() ? cell : NumberCell(cell.text, column.picture));
-  }
-}
-
-QString StandingsText(const QList<TextColumn>& columns, const QList<StandingLine>& lines) {
-  QString heading, dashes, rows;
-  for (const TextColumn& column : columns) {
-    heading += column.heading;
-    dashes += column.dashes;
-  }
-  for (const StandingLine& line : lines) {
-    for (const TextColumn& column : columns) {
-      rows += TextField(line, column) + Blanks(column.blanks);
-    }
-    rows += u'\n';
-  }
-  return heading + u'\n' + dashes + u'\n' + rows;
 }
 
 // ---- box scores of a singles class: a table of twelve rows with two blocks each
@@ -227,33 +102,15 @@ QString SinglesBoxText(const QList<BoxScore>& blocks) {
 
 // ---- box scores of a doubles class: one block below the other
 
-/// Characters from one column of the doubles block to the next, by the columns of its sheet.
-constexpr std::array<int, 7> DoublesWidths = {40, 10, 6, 8, 9, 8, 6};
-
-/// A line of the block, a cell a column.
-template <typename CellOf>
-QString DoublesLine(CellOf cellOf) {
-  const QList<BoxColumn>& columns = DoublesBox().columns;
-  QString text = Blanks(5);
-  for (qsizetype i = 0; i < columns.size(); ++i) {
-    text += cellOf(columns[i]).leftJustified(DoublesWidths[static_cast<size_t>(i)]);
-  }
-  while (text.endsWith(u' ')) text.chop(1);
-  return text + u'\n';
-}
-
 QString DoublesBlockText(const BoxScore& block) {
+  const BoxLayout& layout = DoublesBox();
+  const QList<TextForm> forms = TextFormsOf(layout);
   QString text = QStringLiteral("\n%1. ").arg(block.place) + BoxTitle(block) + u'\n';
-  text += DoublesLine([](const BoxColumn& column) { return column.place.heading; });
-  text += DoublesLine(
-      [](const BoxColumn& column) { return QString(column.place.heading.size(), u'-'); });
-  for (const BoxLine& line : block.lines) {
-    text += DoublesLine([&](const BoxColumn& column) { return Padded(BoxCell(line, column)); });
-  }
+  text += TextHeadings(forms);
+  for (const BoxLine& line : block.lines) text += TextRow(forms, GameCells(layout, line));
   if (block.lines.isEmpty()) return text;
   text += Blanks(45) + QString(45, u'-') + u'\n';
-  return text +
-         DoublesLine([&](const BoxColumn& column) { return Padded(BoxTotalCell(block, column)); });
+  return text + TextRow(forms, TotalCells(layout, block));
 }
 
 QString DoublesBoxText(const QList<BoxScore>& blocks) {
@@ -267,12 +124,7 @@ QString DoublesBoxText(const QList<BoxScore>& blocks) {
 QString ExportTheClass(const ClassResults& results, const ResultsChoice& choice) {
   const QString blanks = Blanks(4);
   QString text = results.tournament + blanks + results.className + blanks + QStringLiteral("\n\n");
-  if (choice.standings) {
-    const auto& columns = results.doubles ? DoublesText()
-                          : choice.brief  ? BriefText()
-                                          : SinglesText();
-    text += StandingsText(columns, results.standings);
-  }
+  if (choice.standings) text += StandingsTable(results, choice).Text(results.standings);
   if (choice.boxScores) {
     text += results.doubles ? DoublesBoxText(results.boxScores) : SinglesBoxText(results.boxScores);
   }

@@ -1,126 +1,167 @@
 #include "play/StandingColumns.h"
 
-#include "play/ClassResults.h"
-#include "print/OutputTarget.h"
+#include "print/Fonts.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-using Figure = StandingFigure;
+using Column = ReportColumn<StandingLine>;
+using Table = ReportTable<StandingLine>;
 
-QList<Column> PlacesOf(const QList<StandingColumn>& columns) {
-  QList<Column> places;
-  for (const StandingColumn& column : columns) places << column.place;
-  return places;
+const QString Whole = u"#0"_s;
+const QString Four = u"###0"_s;
+const QString Hundredths = u"#0.00"_s;
+
+TableForm Lines() {
+  TableForm form;
+  form.size = 11;
+  form.rowHeight = LineHeight({.size = form.size});
+  return form;
+}
+
+Cell Place(const StandingLine& line) {
+  return TextCell(u"%1."_s.arg(line.place));
+}
+
+Cell HeadToHead(const StandingLine& line) {
+  return TextCell(QString::number(line.headToHead));
+}
+
+Cell OverAverage(const StandingLine& line) {
+  return OverAverageCell(line.overAverage);
+}
+
+// The standings' own ways of writing a cell in a text file.
+
+/// "3  " or "3.5": the point of a half win stands in one column.
+QString HalfWinField(const Cell& cell) {
+  return (cell.text.contains(u'.') ? cell.text : cell.text + u"  "_s).rightJustified(4);
+}
+
+/// "1.25 " or "1.25-": decimal points in one column.
+QString OverAverageField(const Cell& cell) {
+  return (cell.text.endsWith(u'-') ? cell.text : cell.text + u' ').rightJustified(6);
+}
+
+QString AfterBlank(const Cell& cell) {
+  return u' ' + cell.text;
+}
+
+Column PlaceColumn(int x, const TextForm& text) {
+  return {{u"Pos"_s, x, x}, Place, text};
+}
+
+Column WonColumn(int headingX, int cellX, const TextForm& text) {
+  return {{u"Won"_s, headingX, cellX}, HalfWinsOf(&StandingLine::won), text};
+}
+
+Column LostColumn(int headingX, int cellX, const TextForm& text) {
+  return {{u"Lost"_s, headingX, cellX}, HalfWinsOf(&StandingLine::loss), text};
+}
+
+Table MakeBrief() {
+  return Table({PlaceColumn(200, {u"Pos    "_s, u"---  "_s, EndingAt(4, u" "_s)}),
+                {{u"Name"_s, 800, 500},
+                 NameOf(&StandingLine::name),
+                 {u" Name                       "_s, u"----------------------      "_s,
+                  Through(u"!@@@@@@@@@@@@@@@@@@@@@@@@@@@@@  "_s)}},
+                {{u"Entry Avg"_s, 3100, 3400},
+                 FigureOf(&StandingLine::entryAverage, Hundredths),
+                 {u"Entry %    "_s, u"--------     "_s, Padded, 5}},
+                {{u"Div"_s, 4300, 4400}, TextOf(&StandingLine::category)},
+                {{u"St"_s, 4900, 4900},
+                 TextOf(&StandingLine::state),
+                 {u"St     "_s, u"--     "_s, Through(u"!@@@@  "_s)}},
+                WonColumn(5700, 5700, {u"Won     "_s, u"----    "_s, HalfWinField, 4}),
+                LostColumn(6600, 6600, {u"Lost    "_s, u"----    "_s, HalfWinField, 3}),
+                {{u"Pts"_s, 7600, 7500},
+                 FigureOf(&StandingLine::points, Four),
+                 {u"Pts     "_s, u"---     "_s, Padded, 4}},
+                {{u"Rgrs"_s, 8500, 8400},
+                 FigureOf(&StandingLine::ringers, Four),
+                 {u"Rgrs      "_s, u"----     "_s, Padded, 3}},
+                {{u"Sh"_s, 9400, 9300},
+                 FigureOf(&StandingLine::shoes, Four),
+                 {u"Sh      "_s, u"---    "_s, Padded, 4}},
+                {{u"R%"_s, 10300, 10200},
+                 FigureOf(&StandingLine::percent, Hundredths),
+                 {u"R%"_s, u"-----"_s}}},
+               Lines());
+}
+
+/// The columns at the end of the full standings, which singles and doubles have in common.
+QList<Column> LastColumns(int pointsX, int ringersX, const QString& dashesOfOverAverage) {
+  return {
+      {{u"Pts"_s, 7350, pointsX},
+       FigureOf(&StandingLine::points, Four),
+       {u"Pts  "_s, u"---  "_s, Padded, 1}},
+      {{u"Rgrs"_s, 8000, ringersX},
+       FigureOf(&StandingLine::ringers, Four),
+       {u"Rgrs "_s, u"---- "_s, Padded, 1}},
+      {{u"HtH"_s, 8650, 8700}, HeadToHead, {u"HToH  "_s, u"----  "_s, AfterBlank, 1}},
+      {{u"Ovr%"_s, 9200, 9150},
+       OverAverage,
+       {u"OvrAvg   "_s, dashesOfOverAverage, OverAverageField, 1}},
+      {{u"Sh"_s, 10000, 9800},
+       FigureOf(&StandingLine::shoes, Four),
+       {u"Sh   "_s, u"--   "_s, EndingAt(3), 2}},
+      {{u"R%"_s, 10700, 10600}, FigureOf(&StandingLine::percent, Hundredths), {u"R%"_s, u"--"_s}}};
+}
+
+Table MakeSingles() {
+  const QList<Column> columns = {
+      PlaceColumn(200, {u"Pos   "_s, u"---   "_s, EndingAt(3, u" "_s)}),
+      {{u"Name"_s, 800, 500},
+       NameOf(&StandingLine::name),
+       {u" Name                    "_s, u" ------------------      "_s,
+        Through(u"!@@@@@@@@@@@@@@@@@@@@@@@@@@@@@"_s)}},
+      {{u"Entry %"_s, 3250, 3450},
+       FigureOf(&StandingLine::entryAverage, Hundredths),
+       {u"Entry %   "_s, u"-------   "_s, Padded, 3}},
+      {{u"Hcp"_s, 4150, 4150},
+       FigureOf(&StandingLine::handicap, Whole),
+       {u"Hcp  "_s, u"---  "_s, Padded, 2}},
+      {{u"Card#"_s, 4750, 4650},
+       TextOf(&StandingLine::card),
+       {u"Card#  "_s, u"-----  "_s, Through(u"!@@@@@@   "_s)}},
+      {{u"St"_s, 5600, 5600},
+       TextOf(&StandingLine::state),
+       {u" St  "_s, u" --  "_s, Through(u"!@@  "_s)}},
+      WonColumn(6150, 6150, {u"Won  "_s, u"---  "_s, HalfWinField, 1}),
+      LostColumn(6700, 6700, {u"Lost   "_s, u"----   "_s, HalfWinField, 1})};
+  return Table(columns + LastColumns(7250, 8000, u"-------  "_s), Lines());
+}
+
+Table MakeDoubles() {
+  const QList<Column> columns = {
+      PlaceColumn(700, {u"Pos   "_s, u"---   "_s, EndingAt(3, u" "_s)}),
+      {{u"Team"_s, 1300, 1200},
+       NameOf(&StandingLine::name),
+       {u"Team                             "_s, u"------------------------         "_s,
+        Through(u"!@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@@"_s)}},
+      {{u"Entry %"_s, 4600, 4800},
+       FigureOf(&StandingLine::entryAverage, Hundredths),
+       {u"Entry %  "_s, u"------   "_s, Padded, 3}},
+      {{u"Hcp"_s, 5500, 5600},
+       FigureOf(&StandingLine::handicap, Whole),
+       {u"Hcp   "_s, u"---   "_s, Padded, 2}},
+      WonColumn(6150, 6200, {u"Won  "_s, u"---  "_s, HalfWinField, 1}),
+      LostColumn(6700, 6700, {u"Lost   "_s, u"----   "_s, HalfWinField, 1})};
+  return Table(columns + LastColumns(7200, 7950, u"------   "_s), Lines());
 }
 
 }  // namespace
 
-Cell StandingCell(const StandingLine& line, StandingFigure figure) {
-  switch (figure) {
-    case Figure::Place:
-      return TextCell(QStringLiteral("%1.").arg(line.place));
-    case Figure::Name:
-      return NameCell(line.name);
-    case Figure::EntryAverage:
-      return NumberCell(line.entryAverage, QStringLiteral("#0.00"));
-    case Figure::Handicap:
-      return NumberCell(line.handicap, QStringLiteral("#0"));
-    case Figure::Category:
-      return TextCell(line.category);
-    case Figure::Card:
-      return TextCell(line.card);
-    case Figure::State:
-      return TextCell(line.state);
-    case Figure::Won:
-      return HalfWinCell(line.won);
-    case Figure::Lost:
-      return HalfWinCell(line.loss);
-    case Figure::Points:
-      return NumberCell(line.points, QStringLiteral("###0"));
-    case Figure::Ringers:
-      return NumberCell(line.ringers, QStringLiteral("###0"));
-    case Figure::HeadToHead:
-      return TextCell(QString::number(line.headToHead));
-    case Figure::OverAverage:
-      return OverAverageCell(line.overAverage);
-    case Figure::Shoes:
-      return NumberCell(line.shoes, QStringLiteral("###0"));
-    case Figure::Percent:
-      return NumberCell(line.percent, QStringLiteral("#0.00"));
-  }
-  return {};
-}
-
-const QList<StandingColumn>& BriefColumns() {
-  static const QList<StandingColumn> columns = {
-      {Figure::Place, {"Pos", 200, 200}},
-      {Figure::Name, {"Name", 800, 500}},
-      {Figure::EntryAverage, {"Entry Avg", 3100, 3400}},
-      {Figure::Category, {"Div", 4300, 4400}},
-      {Figure::State, {"St", 4900, 4900}},
-      {Figure::Won, {"Won", 5700, 5700}},
-      {Figure::Lost, {"Lost", 6600, 6600}},
-      {Figure::Points, {"Pts", 7600, 7500}},
-      {Figure::Ringers, {"Rgrs", 8500, 8400}},
-      {Figure::Shoes, {"Sh", 9400, 9300}},
-      {Figure::Percent, {"R%", 10300, 10200}},
-  };
-  return columns;
-}
-
-const QList<StandingColumn>& SinglesColumns() {
-  static const QList<StandingColumn> columns = {
-      {Figure::Place, {"Pos", 200, 200}},
-      {Figure::Name, {"Name", 800, 500}},
-      {Figure::EntryAverage, {"Entry %", 3250, 3450}},
-      {Figure::Handicap, {"Hcp", 4150, 4150}},
-      {Figure::Card, {"Card#", 4750, 4650}},
-      {Figure::State, {"St", 5600, 5600}},
-      {Figure::Won, {"Won", 6150, 6150}},
-      {Figure::Lost, {"Lost", 6700, 6700}},
-      {Figure::Points, {"Pts", 7350, 7250}},
-      {Figure::Ringers, {"Rgrs", 8000, 8000}},
-      {Figure::HeadToHead, {"HtH", 8650, 8700}},
-      {Figure::OverAverage, {"Ovr%", 9200, 9150}},
-      {Figure::Shoes, {"Sh", 10000, 9800}},
-      {Figure::Percent, {"R%", 10700, 10600}},
-  };
-  return columns;
-}
-
-const QList<StandingColumn>& DoublesColumns() {
-  static const QList<StandingColumn> columns = {
-      {Figure::Place, {"Pos", 700, 700}},
-      {Figure::Name, {"Team", 1300, 1200}},
-      {Figure::EntryAverage, {"Entry %", 4600, 4800}},
-      {Figure::Handicap, {"Hcp", 5500, 5600}},
-      {Figure::Won, {"Won", 6150, 6200}},
-      {Figure::Lost, {"Lost", 6700, 6700}},
-      {Figure::Points, {"Pts", 7350, 7200}},
-      {Figure::Ringers, {"Rgrs", 8000, 7950}},
-      {Figure::HeadToHead, {"HtH", 8650, 8700}},
-      {Figure::OverAverage, {"Ovr%", 9200, 9150}},
-      {Figure::Shoes, {"Sh", 10000, 9800}},
-      {Figure::Percent, {"R%", 10700, 10600}},
-  };
-  return columns;
-}
-
-void PrintStandingHeadings(OutputTarget& target, const QList<StandingColumn>& columns, int y) {
-  target.SetCurrentY(y);
-  PrintHeadings(target, PlacesOf(columns));
-}
-
-void PrintStandings(OutputTarget& target, const QList<StandingColumn>& columns,
-                    const QList<StandingLine>& lines) {
-  const QList<Column> places = PlacesOf(columns);
-  for (const StandingLine& line : lines) {
-    QList<Cell> cells;
-    for (const StandingColumn& column : columns) cells << StandingCell(line, column.figure);
-    PrintRow(target, places, cells, StandingStep);
-    target.Print();
-  }
+const ReportTable<StandingLine>& StandingsTable(const ClassResults& results,
+                                                const ResultsChoice& choice) {
+  static const Table singles = MakeSingles();
+  static const Table brief = MakeBrief();
+  static const Table doubles = MakeDoubles();
+  if (results.doubles) return doubles;
+  return choice.brief ? brief : singles;
 }
 
 }  // namespace tavrelin

@@ -90,9 +90,13 @@ void OutputTarget::Box(int x1, int y1, int x2, int y2) {
   ThisPage().marks.append(LineMark{x1, y1, x2, y2, TwipsOf(drawWidth_), true});
 }
 
+void OutputTarget::Draw(const LineMark& rule) {
+  ThisPage().marks.append(rule);
+}
+
 void OutputTarget::SetOrientation(Orientation orientation) {
   orientation_ = orientation;
-  if (ThisPage().marks.isEmpty()) ThisPage().orientation = orientation;
+  if (IsPageEmpty()) ThisPage().orientation = orientation;
 }
 
 void OutputTarget::NewPage() {
@@ -101,7 +105,7 @@ void OutputTarget::NewPage() {
 }
 
 void OutputTarget::EndDoc() {
-  if (document_.pages.size() > 1 && ThisPage().marks.isEmpty()) document_.pages.removeLast();
+  if (document_.pages.size() > 1 && IsPageEmpty()) document_.pages.removeLast();
 }
 
 Document OutputTarget::Take() {

@@ -9,8 +9,7 @@ namespace tavrelin {
 
 /// What a report procedure writes on: a present position, a present font, and pages that follow
 /// each other. It stands for the printer or for the preview's page surface; which of the two makes
-/// no difference to positions, fonts and texts, only to where a report breaks its pages
-/// (PageBreak in Layout.h).
+/// no difference to positions, fonts and texts, only to where box scores break their pages.
 ///
 /// All distances are twips (1440 to the inch) from the present page's top left. Pages are Letter:
 /// 12240 by 15840 on paper, of which the preview shows 12000 by 15000. Text beyond an edge is
@@ -59,13 +58,17 @@ class OutputTarget {
   /// A rule, or a box by two opposite corners, as wide as DrawWidth. The position stays as it is.
   void Line(int x1, int y1, int x2, int y2);
   void Box(int x1, int y1, int x2, int y2);
+  /// The same, of a width of its own.
+  void Draw(const LineMark& rule);
   /// Width of rules in the preview's pixels of 15 twips; 1 to begin with.
   void SetDrawWidth(int width) { drawWidth_ = width; }
   int DrawWidth() const { return drawWidth_; }
 
   // Pages
 
-  /// Holds for the present page while nothing stands on it, else from the next page on.
+  /// True while nothing was written on the present page.
+  bool IsPageEmpty() const { return document_.pages.last().marks.isEmpty(); }
+  /// Holds for the present page while that is empty, else from the next page on.
   void SetOrientation(Orientation orientation);
   /// Ends the page; the next one starts with the position at its top left.
   void NewPage();

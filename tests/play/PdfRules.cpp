@@ -1,5 +1,10 @@
 #include "play/PdfRules.h"
 
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+#include <utility>
+
 #include <QPolygonF>
 #include <QRegularExpression>
 #include <QTransform>
@@ -49,6 +54,51 @@ bool Close(const QPointF& a, double x, double y) {
   return std::abs(a.x() - x) <= Near && std::abs(a.y() - y) <= Near;
 }
 
+bool IsUpright(const PdfRule& rule) {
+  return std::abs(rule.line.dx()) <= Near;
+}
+
+/// Where a rule lies across its own direction, and where it begins and ends along it.
+double AcrossOf(const PdfRule& rule) {
+  return IsUpright(rule) ? rule.line.x1() : rule.line.y1();
+}
+
+std::pair<double, double> SpanOf(const PdfRule& rule) {
+  const bool upright = IsUpright(rule);
+  const double a = upright ? rule.line.y1() : rule.line.x1();
+  const double b = upright ? rule.line.y2() : rule.line.x2();
+  return std::minmax(a, b);
+}
+
+bool GoesOn(const PdfRule& rule, const PdfRule& next) {
+  return IsUpright(rule) == IsUpright(next) && std::abs(rule.width - next.width) < 1 &&
+         std::abs(AcrossOf(rule) - AcrossOf(next)) <= Near &&
+         SpanOf(next).first <= SpanOf(rule).second + Near;
+}
+
+QList<PdfRule> Joined(QList<PdfRule> strokes) {
+  std::sort(strokes.begin(), strokes.end(), [](const PdfRule& a, const PdfRule& b) {
+    const auto key = [](const PdfRule& rule) {
+      return std::tuple(IsUpright(rule), std::lround(AcrossOf(rule)), SpanOf(rule).first);
+    };
+    return key(a) < key(b);
+  });
+  QList<PdfRule> rules;
+  for (const PdfRule& stroke : strokes) {
+    if (rules.isEmpty() || !GoesOn(rules.last(), stroke)) {
+      rules << stroke;
+      continue;
+    }
+    const bool upright = IsUpright(stroke);
+    const double across = AcrossOf(rules.last());
+    const double from = SpanOf(rules.last()).first;
+    const double to = std::max(SpanOf(rules.last()).second, SpanOf(stroke).second);
+    rules.last().line =
+        upright ? QLineF(across, from, across, to) : QLineF(from, across, to, across);
+  }
+  return rules;
+}
+
 }  // namespace
 
 QList<PdfRule> PdfRules(const Document& document, int page) {
@@ -66,7 +116,7 @@ QList<PdfRule> PdfRules(const Document& document, int page) {
       rules << PdfRule{QLineF(points[i], points[i + 1]), StrokeWidth(style) * place.m11()};
     }
   }
-  return rules;
+  return Joined(rules);
 }
 
 bool HasRule(const QList<PdfRule>& rules, double x1, double y1, double x2, double y2) {

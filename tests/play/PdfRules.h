@@ -7,7 +7,8 @@ namespace tavrelin {
 
 struct Document;
 
-/// A stroke of a page as pdftocairo finds it in the PDF, ends in twips. A box counts as four.
+/// A rule of a page as pdftocairo finds it in the PDF, ends in twips. A box counts as four; strokes
+/// that go on where another one ends are one rule.
 struct PdfRule {
   QLineF line;
   double width = 0;  ///< twips

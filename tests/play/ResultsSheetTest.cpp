@@ -363,6 +363,12 @@ TEST(ResultsSheet, ALeftBlockThatWouldPassTheLimitStartsAPage) {
   }
 }
 
+TEST(ResultsSheet, ABlockLongerThanAPageBeginsUnderTheHeadingNotOnAPageAfterIt) {
+  const PdfPages pdf(Sheet(SampleSingles(2, 76), BoxScoresAlone));
+  EXPECT_EQ(pdf.PageCount(), 2);
+  EXPECT_EQ(pdf.Find("First1").page, 1);
+}
+
 TEST(ResultsSheet, PreviewProducesPagesAtTheSameLimitAsThePrinter) {
   for (const int games : {3, 7, 11, 19, 30}) {
     const ClassResults results = SampleSingles(20, games);
