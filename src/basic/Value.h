@@ -1,5 +1,7 @@
 #pragma once
 
+#include <concepts>
+#include <cstddef>
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
@@ -16,7 +18,9 @@ class Value {
   enum class Kind { Null, YesNo, Whole, Floating, Text, Date };
 
   Value() = default;  ///< null
-  Value(bool yes) : data_(yes) {}
+  /// A real bool only: a pointer would turn into yes.
+  template <std::same_as<bool> YesNo>
+  Value(YesNo yes) : data_(yes) {}
   Value(int number) : data_(static_cast<qint64>(number)) {}
   Value(qint64 number) : data_(number) {}
   Value(double number) : data_(number) {}
@@ -24,6 +28,11 @@ class Value {
   Value(const char* utf8) : data_(QString::fromUtf8(utf8)) {}
   Value(QDateTime date) : data_(std::move(date)) {}
   Value(QDate date) : data_(date.startOfDay()) {}
+  // A letter would turn into its number, and nullptr into a text.
+  Value(char) = delete;
+  Value(wchar_t) = delete;
+  Value(char16_t) = delete;
+  Value(std::nullptr_t) = delete;
 
   Kind kind() const { return static_cast<Kind>(data_.index()); }
   bool IsNull() const { return kind() == Kind::Null; }

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "basic/Twips.h"
 #include "print/Fonts.h"
-#include "shell/Twips.h"
 
 namespace tavrelin {
 

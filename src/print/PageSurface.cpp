@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPaintEvent>
 
-#include "shell/Twips.h"
+#include "basic/Twips.h"
 
 namespace tavrelin {
 

@@ -12,11 +12,11 @@
 
 #include "basic/Conversions.h"
 #include "basic/Error.h"
+#include "basic/Twips.h"
 #include "print/PageSurface.h"
 #include "shell/MessageBar.h"
 #include "shell/Store.h"
 #include "shell/StoredValues.h"
-#include "shell/Twips.h"
 
 namespace tavrelin {
 

@@ -4,8 +4,8 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "basic/Twips.h"
 #include "shell/Store.h"
-#include "shell/Twips.h"
 
 namespace tavrelin {
 

@@ -9,8 +9,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "basic/Twips.h"
 #include "shell/Operator.h"
-#include "shell/Twips.h"
 
 namespace tavrelin {
 

@@ -6,6 +6,7 @@
 #include <QShortcut>
 #include <QTimer>
 
+#include "basic/Twips.h"
 #include "controls/Backdrop.h"
 #include "controls/ButtonBar.h"
 #include "controls/LineIcon.h"
@@ -15,7 +16,6 @@
 #include "shell/Operator.h"
 #include "shell/Routes.h"
 #include "shell/StartUp.h"
-#include "shell/Twips.h"
 #include "shell/WindowPlace.h"
 
 namespace tavrelin {

@@ -1,12 +1,29 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <type_traits>
 
 #include "basic/Value.h"
 #include "support/QtPrinters.h"
 
 namespace tavrelin {
 namespace {
+
+template <class... Given>
+constexpr bool CanBeAnyOf = (std::is_constructible_v<Value, Given> || ...);
+
+// Whatever else C++ would turn into a yes or a number by itself does not compile.
+static_assert(!CanBeAnyOf<const char16_t*, const char32_t*, const wchar_t*, const void*, int*,
+                          Value*, void (*)(), std::nullptr_t>);
+static_assert(!CanBeAnyOf<char, char16_t, wchar_t>);
+static_assert(std::is_constructible_v<Value, bool> && std::is_constructible_v<Value, const char*>);
+
+TEST(Value, OnlyARealBoolIsYesOrNo) {
+  const bool yes = true;
+  EXPECT_EQ(Value(yes).kind(), Value::Kind::YesNo);
+  EXPECT_EQ(Value(1).kind(), Value::Kind::Whole);
+  EXPECT_EQ(Value("Ann").kind(), Value::Kind::Text);
+}
 
 TEST(Value, ItsTextIsInUsForm) {
   const QList<QPair<Value, QString>> cases = {
