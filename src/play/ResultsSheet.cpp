@@ -44,16 +44,16 @@ PageForm FormOf(const ClassResults& results, const ResultsChoice& choice, const 
   form.repeatsHead = false;
   form.room.top = sheet.columnsY + offset;
   form.room.limit = std::numeric_limits<int>::max();
-  if (choice.standings) {
-    form.head << HeadLine{sheet.headingX, form.room.top - BasisRise, results.rankBasis, BasisSize,
-                          false};
-  }
   const int y = sheet.headingY + offset;
   const QString date = Format(results.date, u"mm/dd/yy"_s);
   form.head
       << HeadLine{sheet.headingX, y,    results.tournament + blanks + results.className + blanks,
                   HeadingSize,    true, SanctionX - Gap - sheet.headingX}
       << HeadLine{SanctionX, y, results.sanctionID + blanks + date, HeadingSize};
+  if (choice.standings) {
+    form.head << HeadLine{sheet.headingX, form.room.top - BasisRise, results.rankBasis, BasisSize,
+                          false};
+  }
   return form;
 }
 
