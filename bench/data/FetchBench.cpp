@@ -20,8 +20,8 @@ namespace {
 using namespace tavrelin;
 using Clock = std::chrono::steady_clock;
 
-const QString kQuery = QStringLiteral("SELECT * FROM Players ORDER BY LastName");
-const QString kUnsorted = QStringLiteral("SELECT * FROM Players");
+const QString Query = QStringLiteral("SELECT * FROM Players ORDER BY LastName");
+const QString Unsorted = QStringLiteral("SELECT * FROM Players");
 
 /// A file with so many players, twenty columns each.
 class Roster {
@@ -99,7 +99,7 @@ double BareLoop(Connection& connection, const QString& query) {
 
 void FetchRoster(benchmark::State& state) {
   Roster& roster = RosterOf(static_cast<int>(state.range(0)));
-  const QString& query = state.range(1) != 0 ? kQuery : kUnsorted;
+  const QString& query = state.range(1) != 0 ? Query : Unsorted;
   double bare = 0;
   double fetched = 0;
   for (auto _ : state) {
@@ -135,7 +135,7 @@ BENCHMARK(SortByName)->Arg(50000)->Arg(500000)->Unit(benchmark::kMillisecond);
 
 void SortThatStandsAlready(benchmark::State& state) {
   Recordset rows;
-  rows.Open(kQuery, RosterOf(static_cast<int>(state.range(0))).connection);
+  rows.Open(Query, RosterOf(static_cast<int>(state.range(0))).connection);
   for (auto _ : state) rows.SetSort(QStringLiteral("LastName ASC"));
 }
 BENCHMARK(SortThatStandsAlready)->Arg(50000)->Unit(benchmark::kMillisecond);

@@ -18,7 +18,7 @@ struct TypeName {
   bool byte = false;
 };
 
-constexpr std::array kTypeNames = {
+constexpr std::array TypeNames = {
     TypeName{"TEXT", FieldType::Text},
     TypeName{"VARCHAR", FieldType::Text},
     TypeName{"STRING", FieldType::Text},
@@ -118,10 +118,10 @@ ColumnType ParseColumnType(QStringView declared) {
   const qsizetype bracket = declared.indexOf(u'(');
   const QStringView name = (bracket < 0 ? declared : declared.left(bracket)).trimmed();
   ColumnType result;
-  const auto* known = std::find_if(kTypeNames.begin(), kTypeNames.end(), [&](const TypeName& t) {
+  const auto* known = std::find_if(TypeNames.begin(), TypeNames.end(), [&](const TypeName& t) {
     return name.compare(QLatin1String(t.name), Qt::CaseInsensitive) == 0;
   });
-  if (known == kTypeNames.end()) {
+  if (known == TypeNames.end()) {
     result.known = false;
     return result;
   }

@@ -11,9 +11,9 @@ namespace tavrelin {
 namespace {
 
 // Where the file's first page keeps the size of a page and the number of pages.
-constexpr int kHeader = 32;
-constexpr int kPageSizeAt = 16;
-constexpr int kPageCountAt = 28;
+constexpr int HeaderSize = 32;
+constexpr int PageSizeAt = 16;
+constexpr int PageCountAt = 28;
 
 bool HasMoved(sqlite3* handle) {
   int moved = 0;
@@ -27,12 +27,12 @@ bool IsCutShort(sqlite3* handle) {
   sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, &file);
   if (!file || !file->pMethods) return false;
   sqlite3_int64 size = 0;
-  std::array<uchar, kHeader> header{};
-  if (file->pMethods->xFileSize(file, &size) != SQLITE_OK || size < kHeader) return true;
-  if (file->pMethods->xRead(file, header.data(), kHeader, 0) != SQLITE_OK) return true;
+  std::array<uchar, HeaderSize> header{};
+  if (file->pMethods->xFileSize(file, &size) != SQLITE_OK || size < HeaderSize) return true;
+  if (file->pMethods->xRead(file, header.data(), HeaderSize, 0) != SQLITE_OK) return true;
   if (std::memcmp(header.data(), "SQLite format 3", 16) != 0) return true;
-  const sqlite3_int64 page = qFromBigEndian<quint16>(header.data() + kPageSizeAt);
-  const sqlite3_int64 pages = qFromBigEndian<quint32>(header.data() + kPageCountAt);
+  const sqlite3_int64 page = qFromBigEndian<quint16>(header.data() + PageSizeAt);
+  const sqlite3_int64 pages = qFromBigEndian<quint32>(header.data() + PageCountAt);
   return size < pages * (page == 1 ? 65536 : page);
 }
 

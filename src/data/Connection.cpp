@@ -20,8 +20,8 @@
 namespace tavrelin {
 namespace {
 
-constexpr int kWaitMilliseconds = 3000;
-constexpr size_t kKeptStatements = 60;
+constexpr int WaitMilliseconds = 3000;
+constexpr size_t KeptStatements = 60;
 
 [[noreturn]] void RefuseFile(const QString& path, const QString& why) {
   throw Error(errors::FileUnusable,
@@ -78,7 +78,7 @@ void CheckMark(sqlite3* handle, const QString& path) {
 
 void SetUp(sqlite3* handle) {
   sqlite3_extended_result_codes(handle, 1);
-  sqlite3_busy_timeout(handle, kWaitMilliseconds);
+  sqlite3_busy_timeout(handle, WaitMilliseconds);
   sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
   sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
@@ -155,7 +155,7 @@ const Connection::Private::Kept& Connection::Private::Keep(const QString& sql, b
     ThrowDatabaseError(handle);
   }
   kept.push_front(std::move(fresh));
-  if (kept.size() > kKeptStatements) {
+  if (kept.size() > KeptStatements) {
     sqlite3_finalize(kept.back().statement);
     kept.pop_back();
   }

@@ -89,7 +89,7 @@ class Criterion::Parser {
   }
 
   Operator TakeOperator() {
-    static constexpr std::array<std::pair<QStringView, Operator>, 6> kSigns = {{
+    static constexpr std::array<std::pair<QStringView, Operator>, 6> Signs = {{
         {u"<>", Operator::Unequal},
         {u"<=", Operator::LessOrEqual},
         {u">=", Operator::GreaterOrEqual},
@@ -97,7 +97,7 @@ class Criterion::Parser {
         {u"<", Operator::Less},
         {u">", Operator::Greater},
     }};
-    for (const auto& [sign, op] : kSigns) {
+    for (const auto& [sign, op] : Signs) {
       if (QStringView(text_).mid(at_).startsWith(sign)) {
         at_ += sign.size();
         return op;

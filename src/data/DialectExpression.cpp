@@ -10,7 +10,7 @@ namespace tavrelin {
 namespace {
 
 // Functions that SQLite knows under another name.
-constexpr std::array<std::pair<QLatin1String, QLatin1String>, 5> kRenamed = {{
+constexpr std::array<std::pair<QLatin1String, QLatin1String>, 5> Renamed = {{
     {QLatin1String("UCASE"), QLatin1String("upper")},
     {QLatin1String("LCASE"), QLatin1String("lower")},
     {QLatin1String("LEN"), QLatin1String("length")},
@@ -327,7 +327,7 @@ DialectWriter::Operand DialectWriter::Call(const QString& name) {
   }
   Expect(")");
   QString sqlName = name;
-  for (const auto& [access, sqlite] : kRenamed) {
+  for (const auto& [access, sqlite] : Renamed) {
     if (name.compare(access, Qt::CaseInsensitive) == 0) sqlName = sqlite;
   }
   Operand result{sqlName + u'(' + arguments.join(QStringLiteral(", ")) + u')'};

@@ -7,7 +7,7 @@
 namespace tavrelin {
 namespace {
 
-const QString kRowNumber = QStringLiteral("row_number_of_file");
+const QString RowNumber = QStringLiteral("row_number_of_file");
 
 bool EndsItem(const Token& token) {
   return token.Is(QLatin1String("FROM")) || token.IsSymbol(QLatin1String(",")) ||
@@ -72,7 +72,7 @@ Translation DialectWriter::Select(bool withRowNumber) {
                              .arg(query.items, QuotedName(source.table), QuotedName(source.alias));
     translation.sql =
         QStringLiteral("SELECT %1, %2.rowid AS %3 %4")
-            .arg(query.items, QuotedName(query.sources.first().alias), kRowNumber, query.rest);
+            .arg(query.items, QuotedName(query.sources.first().alias), RowNumber, query.rest);
   }
   return translation;
 }

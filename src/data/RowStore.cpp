@@ -8,8 +8,8 @@ namespace tavrelin {
 namespace {
 
 // A text's place: 34 bits of offset, 30 bits of length, which is the longest text SQLite has.
-constexpr int kLengthBits = 30;
-constexpr quint64 kLengthMask = (quint64{1} << kLengthBits) - 1;
+constexpr int LengthBits = 30;
+constexpr quint64 LengthMask = (quint64{1} << LengthBits) - 1;
 
 Value NumberAs(FieldType type, bool whole, qint64 number, double floating) {
   switch (type) {
@@ -36,7 +36,7 @@ Value TextAs(FieldType type, QByteArrayView utf8) {
 quint64 RowStore::Keep(const char* utf8, qsizetype bytes) {
   const quint64 offset = arena_.size();
   arena_.insert(arena_.end(), utf8, utf8 + bytes);
-  return (offset << kLengthBits) | static_cast<quint64>(bytes);
+  return (offset << LengthBits) | static_cast<quint64>(bytes);
 }
 
 void RowStore::AppendFloating(double number) {
@@ -86,7 +86,7 @@ double RowStore::NumberAt(int row, int column) const {
 
 QByteArrayView RowStore::TextAt(int row, int column) const {
   const quint64 bits = bits_[Index(row, column)];
-  return {arena_.data() + (bits >> kLengthBits), static_cast<qsizetype>(bits & kLengthMask)};
+  return {arena_.data() + (bits >> LengthBits), static_cast<qsizetype>(bits & LengthMask)};
 }
 
 Value RowStore::At(int row, int column, FieldType type) const {

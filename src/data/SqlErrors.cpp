@@ -10,7 +10,7 @@
 namespace tavrelin {
 namespace {
 
-constexpr char kMark = '\x01';
+constexpr char ErrorMark = '\x01';
 
 // SQLite's own words for the mistakes in a statement, and what stands behind the colon.
 struct Mistake {
@@ -19,7 +19,7 @@ struct Mistake {
   const char* sentence;
 };
 
-constexpr Mistake kMistakes[] = {
+constexpr Mistake Mistakes[] = {
     {"no such table: ", errors::Database + SQLITE_ERROR, "The file has no table \"%1\"."},
     {"no such column: ", errors::NoSuchField, "There is no field \"%1\"."},
     {"ambiguous column name: ", errors::Syntax, "More than one table has the field \"%1\"."},
@@ -28,7 +28,7 @@ constexpr Mistake kMistakes[] = {
 };
 
 void ThrowMistake(const QString& message) {
-  for (const Mistake& mistake : kMistakes) {
+  for (const Mistake& mistake : Mistakes) {
     if (message.startsWith(QLatin1String(mistake.words))) {
       const QString name = message.mid(static_cast<qsizetype>(qstrlen(mistake.words)));
       throw Error(mistake.number, QString::fromLatin1(mistake.sentence).arg(name));
@@ -37,8 +37,8 @@ void ThrowMistake(const QString& message) {
 }
 
 void ThrowEncoded(const QByteArray& message) {
-  if (message.isEmpty() || message.front() != kMark) return;
-  const qsizetype end = message.indexOf(kMark, 1);
+  if (message.isEmpty() || message.front() != ErrorMark) return;
+  const qsizetype end = message.indexOf(ErrorMark, 1);
   throw Error(message.mid(1, end - 1).toInt(), QString::fromUtf8(message.mid(end + 1)));
 }
 
@@ -133,7 +133,7 @@ void ThrowDatabaseError(sqlite3* handle) {
 }
 
 QByteArray EncodeError(const Error& error) {
-  return kMark + QByteArray::number(error.number()) + kMark + error.description().toUtf8();
+  return ErrorMark + QByteArray::number(error.number()) + ErrorMark + error.description().toUtf8();
 }
 
 }  // namespace tavrelin

@@ -15,7 +15,7 @@
 namespace tavrelin {
 namespace {
 
-constexpr int kFunctionFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
+constexpr int FunctionFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
 
 unsigned char Folded(unsigned char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + 32) : c;
@@ -166,7 +166,7 @@ void RegisterSqlFunctions(sqlite3* handle) {
   sqlite3_create_collation_v2(handle, "NOCASE", SQLITE_UTF8, nullptr, CompareNoCase, nullptr);
   sqlite3_create_collation_v2(handle, "RTRIM", SQLITE_UTF8, nullptr, CompareTrimmed, nullptr);
   const auto add = [handle](const char* name, int arguments, auto* function) {
-    sqlite3_create_function_v2(handle, name, arguments, kFunctionFlags, nullptr, function, nullptr,
+    sqlite3_create_function_v2(handle, name, arguments, FunctionFlags, nullptr, function, nullptr,
                                nullptr, nullptr);
   };
   add("like", 2, Like);

@@ -11,7 +11,7 @@
 namespace tavrelin {
 namespace {
 
-const QString kNewTable = QStringLiteral("table_being_rebuilt");
+const QString NewTable = QStringLiteral("table_being_rebuilt");
 
 /// The definitions between a CREATE TABLE's brackets, as they stand in the file.
 class Definitions {
@@ -104,7 +104,7 @@ QString NewLayout(sqlite3* handle, const Translation::Rebuild& change) {
   } else {
     definitions.Replace(change.column, definition);
   }
-  return definitions.CreateTable(kNewTable);
+  return definitions.CreateTable(NewTable);
 }
 
 void CopyRows(sqlite3* handle, const Translation::Rebuild& change) {
@@ -126,9 +126,8 @@ void CopyRows(sqlite3* handle, const Translation::Rebuild& change) {
     names.prepend(QStringLiteral("rowid"));
     values.prepend(QStringLiteral("rowid"));
   }
-  RunSql(handle,
-         QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %4 ORDER BY rowid")
-             .arg(kNewTable, names.join(u','), values.join(u','), QuotedName(change.table)));
+  RunSql(handle, QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %4 ORDER BY rowid")
+                     .arg(NewTable, names.join(u','), values.join(u','), QuotedName(change.table)));
 }
 
 void Rebuild(sqlite3* handle, const Translation::Rebuild& change) {
@@ -142,7 +141,7 @@ void Rebuild(sqlite3* handle, const Translation::Rebuild& change) {
   CopyRows(handle, change);
   RunSql(handle, QStringLiteral("DROP TABLE ") + QuotedName(change.table));
   RunSql(handle,
-         QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(kNewTable, QuotedName(change.table)));
+         QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(NewTable, QuotedName(change.table)));
   for (const QString& companion : companions) RunSql(handle, companion);
 }
 

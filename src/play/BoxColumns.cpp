@@ -105,8 +105,8 @@ const BoxLayout& DoublesBox() {
 
 QString BoxTitle(const BoxScore& block) {
   QString title = block.name + u"   "_s + HalfWinText(block.won) + u'-' + HalfWinText(block.loss);
-  if (block.throwers.size() > 1) {
-    title += u"   (A. - %1;  B. - %2)"_s.arg(block.throwers[0], block.throwers[1]);
+  if (block.pitchers.size() > 1) {
+    title += u"   (A. - %1;  B. - %2)"_s.arg(block.pitchers[0], block.pitchers[1]);
   }
   return title;
 }

@@ -30,7 +30,7 @@ BoxLine LineOf(const Game& game, int side, const ByID<QString>& names) {
 BoxFigures TotalsOf(const Recordset& row, const PlayFormat& format) {
   BoxFigures totals;
   totals.points = static_cast<int>(row[QStringLiteral("Points")].ToWhole());
-  totals.shoes = static_cast<int>(row[QStringLiteral("Shoes")].ToWhole() / format.throwers.size());
+  totals.shoes = static_cast<int>(row[QStringLiteral("Shoes")].ToWhole() / format.pitchers.size());
   for (const QString& field : format.standingsRingers) {
     totals.ringers << static_cast<int>(row[field].ToWhole());
   }
@@ -49,8 +49,8 @@ void Add(BoxFigures& sum, const BoxFigures& line) {
 BoxScore BlockOf(const Recordset& row, const PlayFormat& format) {
   BoxScore block;
   block.name = row[format.standingsName].Trimmed();
-  for (const ThrowerColumns& thrower : format.throwers) {
-    block.throwers << row[thrower.fullName].Trimmed();
+  for (const PitcherColumns& pitcher : format.pitchers) {
+    block.pitchers << row[pitcher.fullName].Trimmed();
   }
   block.won = row[QStringLiteral("Won")].ToNumber();
   block.loss = row[QStringLiteral("Loss")].ToNumber();

@@ -9,10 +9,10 @@ namespace tavrelin {
 class Connection;
 struct Standings;
 
-/// Ringers and percentage of each thrower over some shoes.
+/// Ringers and percentage of each pitcher over some shoes.
 struct BoxFigures {
   int points = 0;
-  int shoes = 0;  ///< of one thrower
+  int shoes = 0;  ///< of one pitcher
   QList<int> ringers;
   QList<double> percents;  ///< unrounded; 0 without shoes
 };
@@ -29,7 +29,7 @@ struct BoxLine {
 struct BoxScore {
   int place = 0;
   QString name;          ///< player or team
-  QStringList throwers;  ///< the player, or the team's two players
+  QStringList pitchers;  ///< the player, or the team's two players
   double won = 0;
   double loss = 0;
   QList<BoxLine> lines;  ///< in the order Game, Court

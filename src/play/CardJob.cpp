@@ -60,7 +60,7 @@ CardJob MakeCardJob(Connection& connection, const LoadedClass& loaded, const Car
   job.nextFace = choice.face;
   job.className = loaded.rules.name;
   job.shoes = loaded.rules.shoes;
-  job.doubles = loaded.Format().throwers.size() > 1;
+  job.doubles = loaded.Format().pitchers.size() > 1;
   job.down = settings.DownShift();
   job.right = settings.RightShift();
   ReadTournament(connection, job, loaded.rules.sanctionID);

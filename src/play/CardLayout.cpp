@@ -79,12 +79,12 @@ QList<Cell> CardCells(const CardLine& line) {
 }
 
 QString CardHeading(const Card& card) {
-  if (card.throwers.size() == 1) {
-    return QStringLiteral("%1.%2").arg(card.number).arg(card.throwers[0].Full());
+  if (card.pitchers.size() == 1) {
+    return QStringLiteral("%1.%2").arg(card.number).arg(card.pitchers[0].Full());
   }
   QStringList partners;
   char16_t letter = u'A';
-  for (const PersonName& name : card.throwers)
+  for (const PersonName& name : card.pitchers)
     partners << QChar(letter++) + QStringLiteral(".") + name.Full();
   return QString::number(card.number) + partners.join(QStringLiteral("  "));
 }

@@ -33,7 +33,7 @@ void PrintPairOldMethod(OutputTarget& target, const CardJob& job) {
   const bool front = job.face == CardFace::Front;
   CardPrinter printer(target, job, CardPaper, CardInformation);
   for (const Card& card : job.cards) {
-    const qsizetype copies = front ? card.throwers.size() : 1;
+    const qsizetype copies = front ? card.pitchers.size() : 1;
     for (qsizetype copy = 0; copy < copies; ++copy) {
       printer.StartCard();
       if (front) {

@@ -26,10 +26,10 @@ QList<Game> InGameOrder(const LoadedClass& loaded) {
 
 /// Big enough to read across the court: a player's two names, or the partners' last names. The
 /// pacers of a team have no last names and stand there as they are called.
-QStringList FrontLines(const QList<PersonName>& throwers) {
-  if (throwers.size() == 1) return {throwers[0].first, throwers[0].last};
+QStringList FrontLines(const QList<PersonName>& pitchers) {
+  if (pitchers.size() == 1) return {pitchers[0].first, pitchers[0].last};
   QStringList lines;
-  for (const PersonName& name : throwers) lines << (name.last.isEmpty() ? name.first : name.last);
+  for (const PersonName& name : pitchers) lines << (name.last.isEmpty() ? name.first : name.last);
   return lines;
 }
 
@@ -75,11 +75,11 @@ class CardWriter {
     Card card;
     card.number = number;
     card.isPacer = format_.IsPacer(At(number, format_.entrantID).ToText());
-    for (const ThrowerColumns& thrower : format_.throwers) {
-      card.throwers << PersonName{At(number, thrower.firstName).Trimmed(),
-                                  At(number, thrower.lastName).Trimmed()};
+    for (const PitcherColumns& pitcher : format_.pitchers) {
+      card.pitchers << PersonName{At(number, pitcher.firstName).Trimmed(),
+                                  At(number, pitcher.lastName).Trimmed()};
     }
-    card.front = FrontLines(card.throwers);
+    card.front = FrontLines(card.pitchers);
     card.state = At(number, QStringLiteral("State")).Trimmed();
     card.wins = At(number, QStringLiteral("TotalWins")).ToText();
     card.losses = At(number, QStringLiteral("TotalLosses")).ToText();

@@ -38,7 +38,7 @@ struct CardLine {
 struct Card {
   int number = 0;
   bool isPacer = false;
-  QList<PersonName> throwers;  ///< the player, or the team's two players
+  QList<PersonName> pitchers;  ///< the player, or the team's two players
   QStringList front;  ///< the two lines of its front: his names, or the partners' last names
   QString state;      ///< singles only, as are the next two
   QString wins;       ///< by the half-win rule

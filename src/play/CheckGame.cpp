@@ -50,7 +50,7 @@ struct Figure {
 
 QList<Figure> FiguresOf(const PlayFormat& format) {
   const QString entrant =
-      format.throwers.size() == 1 ? QStringLiteral("player") : QStringLiteral("team");
+      format.pitchers.size() == 1 ? QStringLiteral("player") : QStringLiteral("team");
   const QString words[] = {QStringLiteral("one"), QStringLiteral("two")};
   QList<Figure> figures;
   for (size_t i = 0; i < 2; ++i) {
@@ -116,22 +116,22 @@ class Checker {
       if (!row_.value(format_.sides[i].id).Trimmed().isEmpty()) continue;
       return Refuse(QStringLiteral("Invalid %1 %2.").arg(entrant, i == 0 ? u"One" : u"Two"));
     }
-    return Throwers(format_.sides[0]) && Throwers(format_.sides[1]);
+    return Pitchers(format_.sides[0]) && Pitchers(format_.sides[1]);
   }
 
   /// Choosing a team chooses its players.
-  bool Throwers(const SideColumns& side) {
-    if (side.throwers.first() == side.id) return true;
+  bool Pitchers(const SideColumns& side) {
+    if (side.pitchers.first() == side.id) return true;
     const QString id = row_.value(side.id).Trimmed();
     if (format_.IsPacer(id)) {
-      for (int i = 0; i < 2; ++i) check_.Fix(side.throwers[i], format_.pacerThrowers[i]);
+      for (int i = 0; i < 2; ++i) check_.Fix(side.pitchers[i], format_.pacerPitchers[i]);
       return true;
     }
     const int position = Find(context_.list, format_.entrantID, id);
     if (position == 0) return Refuse(QStringLiteral("Team not found in entries "));
     for (int i = 0; i < 2; ++i) {
-      const int field = context_.list.FieldIndex(format_.throwers[i].id);
-      check_.Fix(side.throwers[i], context_.list.CellAt(position, field));
+      const int field = context_.list.FieldIndex(format_.pitchers[i].id);
+      check_.Fix(side.pitchers[i], context_.list.CellAt(position, field));
     }
     return true;
   }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Unseeded = 99;
 
-/// An entry as the file delivers it, with the names of its throwers.
+/// An entry as the file delivers it, with the names of its pitchers.
 struct Entrant {
   int seed;
   double average;
@@ -40,8 +40,8 @@ QList<Entrant> ReadEntrants(Connection& connection, const ClassRules& rules) {
 void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>& entrants) {
   QStringList ids;
   for (const Entrant& entrant : entrants) {
-    for (const ThrowerColumns& thrower : format.throwers)
-      ids << entrant.values[thrower.id].ToText();
+    for (const PitcherColumns& pitcher : format.pitchers)
+      ids << entrant.values[pitcher.id].ToText();
   }
   const bool needsRoster = !format.rosterFields.isEmpty();
   const ByID<PersonName> names = PlayerNames(connection, ids, {"State"});
@@ -51,10 +51,10 @@ void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>&
     });
   }
   for (Entrant& entrant : entrants) {
-    for (const ThrowerColumns& thrower : format.throwers) {
-      const PersonName name = NameOrNumber(names, entrant.values[thrower.id].ToText());
-      entrant.values[thrower.firstName] = name.first;
-      entrant.values[thrower.lastName] = name.last;
+    for (const PitcherColumns& pitcher : format.pitchers) {
+      const PersonName name = NameOrNumber(names, entrant.values[pitcher.id].ToText());
+      entrant.values[pitcher.firstName] = name.first;
+      entrant.values[pitcher.lastName] = name.last;
       if (needsRoster)
         entrant.values[QStringLiteral("State")] = name.values[QStringLiteral("State")];
     }

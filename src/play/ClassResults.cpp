@@ -61,7 +61,7 @@ QList<StandingLine> StandingLines(const Standings& standings) {
     StandingLine line = LineAt(RowReader(standings.rows, position), format);
     line.place = position;
     line.handicap = HandicapFigure(best, line.entryAverage, rules.shoes, rules.handicapPct,
-                                   static_cast<int>(format.throwers.size()));
+                                   static_cast<int>(format.pitchers.size()));
     lines << line;
   }
   return lines;
@@ -72,7 +72,7 @@ ClassResults ReadResults(Connection& connection, Standings& standings) {
   results.sanctionID = standings.rules.sanctionID;
   results.className = standings.rules.name;
   results.rankBasis = standings.rankBasis;
-  results.doubles = FormatOf(standings.rules).throwers.size() > 1;
+  results.doubles = FormatOf(standings.rules).pitchers.size() > 1;
   if (const auto tournament = FindTournament(connection, results.sanctionID)) {
     results.tournament = tournament->name;
     results.date = tournament->date;

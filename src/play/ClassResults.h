@@ -24,7 +24,7 @@ struct StandingLine {
   double loss = 0;
   int points = 0;
   int ringers = 0;
-  int shoes = 0;       ///< of all throwers
+  int shoes = 0;       ///< of all pitchers
   double percent = 0;  ///< unrounded
   int headToHead = 0;
   double overAverage = 0;  ///< unrounded

@@ -72,11 +72,11 @@ int Pair(const QStringList& arguments, QTextStream&, QTextStream& err) {
   return refusal.isEmpty() ? exits::Done : Refuse(err, refusal);
 }
 
-/// The columns that only the entry holds, by thrower.
+/// The columns that only the entry holds, by pitcher.
 QStringList EntryColumns(const PlayFormat& format) {
   QStringList columns;
-  for (const ThrowerColumns& thrower : format.throwers) {
-    for (const QString& column : {thrower.id, thrower.ringers, thrower.shoes, thrower.hiGame}) {
+  for (const PitcherColumns& pitcher : format.pitchers) {
+    for (const QString& column : {pitcher.id, pitcher.ringers, pitcher.shoes, pitcher.hiGame}) {
       if (!column.isEmpty() && column != format.entrantID) columns << column;
     }
   }

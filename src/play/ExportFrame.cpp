@@ -27,7 +27,7 @@ ExportFrame::ExportFrame(const PlayFormat& format, QWidget* parent)
       txtPath_(NewBox("txtPath", "Path", this)),
       txtFile_(NewBox("txtFile", "File", this)) {
   setObjectName("Frame4");
-  const bool doubles = format.throwers.size() > 1;
+  const bool doubles = format.pitchers.size() > 1;
   auto* cmdExport =
       NewControl<QPushButton>("cmdExport", doubles ? "Export Results" : "Export", this);
   auto* grid = new QGridLayout(this);

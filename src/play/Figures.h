@@ -11,9 +11,9 @@ double RingerPercentage(double ringers, double shoes);
 
 /// Handicap points a game: what an entrant of average `average` gets against the strongest of the
 /// class. A ringer counts three points, so each percent below `best` is worth three hundredths of a
-/// point a shoe, of which `percent` hundredths are given; for each of `throwers` players. Halves
+/// point a shoe, of which `percent` hundredths are given; for each of `pitchers` players. Halves
 /// go to the even number. A class without a fixed number of shoes gives none.
-int HandicapFigure(double best, double average, int shoes, double percent, int throwers = 1);
+int HandicapFigure(double best, double average, int shoes, double percent, int pitchers = 1);
 
 /// The largest value of a percentage column over all rows; 0 when there is none. Leaves the cursor.
 double LargestFigure(const Recordset& rows, const QString& field);

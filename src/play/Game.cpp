@@ -17,12 +17,12 @@ struct SideIndex {
         number(games.FieldIndex(columns.number)),
         points(games.FieldIndex(columns.points)),
         forfeit(games.FieldIndex(columns.forfeit)) {
-    for (const QString& name : columns.throwers) throwers << games.FieldIndex(name);
+    for (const QString& name : columns.pitchers) pitchers << games.FieldIndex(name);
     for (const QString& name : columns.ringers) ringers << games.FieldIndex(name);
   }
 
   int id, number, points, forfeit;
-  QList<int> throwers, ringers;
+  QList<int> pitchers, ringers;
 };
 
 /// One row of a recordset, read by field place without moving the cursor.
@@ -40,10 +40,10 @@ GameSide ReadSide(const Row& row, const SideIndex& index) {
   side.number = row.Whole(index.number);
   side.points = row.Whole(index.points);
   side.forfeit = row.At(index.forfeit).ToYesNo();
-  side.throwers.reserve(index.throwers.size());
+  side.pitchers.reserve(index.pitchers.size());
   side.ringers.reserve(index.ringers.size());
-  for (const int field : index.throwers)
-    side.throwers << (field == index.id ? side.id : row.At(field).Trimmed());
+  for (const int field : index.pitchers)
+    side.pitchers << (field == index.id ? side.id : row.At(field).Trimmed());
   for (const int field : index.ringers) side.ringers << row.Whole(field);
   return side;
 }

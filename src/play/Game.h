@@ -16,8 +16,8 @@ struct GameSide {
   int number = 0;  ///< the entrant's number in the class; 0 where none is stored
   int points = 0;
   bool forfeit = false;
-  QStringList throwers;  ///< the player, or the team's two players
-  QList<int> ringers;    ///< one for each thrower
+  QStringList pitchers;  ///< the player, or the team's two players
+  QList<int> ringers;    ///< one for each pitcher
 
   int Ringers() const;
 };
@@ -26,7 +26,7 @@ struct GameSide {
 struct Game {
   int game = 0;  ///< game number over all rounds
   QString court;
-  int shoes = 0;  ///< shoes that each thrower pitched
+  int shoes = 0;  ///< shoes that each pitcher pitched
   bool approved = false;
   std::array<GameSide, 2> sides;
 

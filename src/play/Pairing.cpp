@@ -96,16 +96,16 @@ class Pairing {
 
   void SetPacer(NewRow& row, const SideColumns& side) const {
     row.Set(side.id, format_.pacerID);
-    for (qsizetype i = 0; i < side.throwers.size(); ++i) {
-      if (side.throwers[i] != side.id) row.Set(side.throwers[i], format_.pacerThrowers[i]);
+    for (qsizetype i = 0; i < side.pitchers.size(); ++i) {
+      if (side.pitchers[i] != side.id) row.Set(side.pitchers[i], format_.pacerPitchers[i]);
     }
   }
 
   void SetEntrant(NewRow& row, const SideColumns& side, int number) const {
     row.Set(side.id, Listed(number, format_.entrantID));
-    for (qsizetype i = 0; i < side.throwers.size(); ++i) {
-      if (side.throwers[i] != side.id) {
-        row.Set(side.throwers[i], Listed(number, format_.throwers[i].id));
+    for (qsizetype i = 0; i < side.pitchers.size(); ++i) {
+      if (side.pitchers[i] != side.id) {
+        row.Set(side.pitchers[i], Listed(number, format_.pitchers[i].id));
       }
       row.Set(side.ringers[i], 0);
     }

@@ -59,17 +59,17 @@ void AddSinglePoints(QList<GridColumn>& columns, const SideColumns& side, const 
   columns.append(column);
 }
 
-// Who throws for a team stands behind it; its players come with the team that is chosen.
-void AddThrowers(QList<GridColumn>& columns, const SideColumns& side) {
-  const bool team = side.throwers.size() > 1;
+// The pitchers of a team stand behind it; they come with the team that is chosen.
+void AddPitchers(QList<GridColumn>& columns, const SideColumns& side) {
+  const bool team = side.pitchers.size() > 1;
   for (qsizetype i = 0; i < side.ringers.size(); ++i) {
     if (team) {
       columns.append({.caption = i == 0 ? "A" : "B",
-                      .field = side.throwers[i],
+                      .field = side.pitchers[i],
                       .width = 760,
                       .selectable = false,
                       .editable = false,
-                      .spokenCaption = Spoken(side.throwers[i])});
+                      .spokenCaption = Spoken(side.pitchers[i])});
     }
     columns.append(Figure("Rgrs", side.ringers[i], 600, Spoken(side.ringers[i])));
   }
@@ -92,7 +92,7 @@ void AddSide(QList<GridColumn>& columns, const SideColumns& side, const QString&
                   .fill = true,
                   .spokenCaption = Spoken(Stem(side))});
   columns.append(Figure("Pts", side.points, 550, Spoken(side.points)));
-  AddThrowers(columns, side);
+  AddPitchers(columns, side);
   AddSinglePoints(columns, side, singlePointsKey);
 }
 

@@ -34,7 +34,7 @@ SideColumns TeamSide(const QString& side) {
           {side + "PlayerOneRingers", side + "PlayerTwoRingers"}};
 }
 
-ThrowerColumns Partner(const QString& player) {
+PitcherColumns Partner(const QString& player) {
   return {player + "ID",        player + "HiGame",   player + "Ringers", player + "Shoes",
           player + "FirstName", player + "LastName", player + "Name"};
 }
@@ -109,9 +109,9 @@ PlayFormat MakeSingles() {
   f.entrantTable = QStringLiteral("TournamentEntrants");
   f.entrantID = QStringLiteral("PlayerID");
   f.sides = {PlayerSide(QStringLiteral("PlayerOne")), PlayerSide(QStringLiteral("PlayerTwo"))};
-  f.throwers = {{"PlayerID", "HiGame", {}, {}, "FirstName", "LastName", "PlayerName"}};
+  f.pitchers = {{"PlayerID", "HiGame", {}, {}, "FirstName", "LastName", "PlayerName"}};
   f.pacerID = "PPPPPP";
-  f.pacerThrowers = {QStringLiteral("PPPPPP")};
+  f.pacerPitchers = {QStringLiteral("PPPPPP")};
   f.forgivesTypingSlips = true;
   NameSinglesStatements(f);
   f.listFields = {{"PlayerID", FieldType::Text, 6},    {"FirstName", FieldType::Text, 20},
@@ -137,9 +137,9 @@ PlayFormat MakeDoubles() {
   f.entrantTable = QStringLiteral("TournamentTeamEntrants");
   f.entrantID = QStringLiteral("TeamID");
   f.sides = {TeamSide(QStringLiteral("TeamOne")), TeamSide(QStringLiteral("TeamTwo"))};
-  f.throwers = {Partner(QStringLiteral("PlayerOne")), Partner(QStringLiteral("PlayerTwo"))};
+  f.pitchers = {Partner(QStringLiteral("PlayerOne")), Partner(QStringLiteral("PlayerTwo"))};
   f.pacerID = 0;
-  f.pacerThrowers = {QStringLiteral("PPPPP1"), QStringLiteral("PPPPP2")};
+  f.pacerPitchers = {QStringLiteral("PPPPP1"), QStringLiteral("PPPPP2")};
   NameDoublesStatements(f);
   f.listFields = {{"TeamID", FieldType::Long},
                   {"Team", FieldType::Text, 50},

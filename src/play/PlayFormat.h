@@ -21,15 +21,15 @@ struct SideColumns {
   QString points;
   QString singlePoints;  ///< points from shoes in count that are no ringers
   QString forfeit;
-  QStringList throwers;  ///< the player or players who throw for the side
-  QStringList ringers;   ///< one for each thrower
+  QStringList pitchers;  ///< the player or players who throw for the side
+  QStringList ringers;   ///< one for each pitcher
 };
 
-/// The columns of one thrower in an entry and in the lists made from it.
-struct ThrowerColumns {
+/// The columns of one pitcher in an entry and in the lists made from it.
+struct PitcherColumns {
   QString id;
   QString hiGame;   ///< best ringer percentage of a single game
-  QString ringers;  ///< the thrower's share in the entry; empty when he throws alone
+  QString ringers;  ///< the pitcher's share in the entry; empty when he throws alone
   QString shoes;
   QString firstName;  ///< in the class list
   QString lastName;
@@ -43,16 +43,16 @@ struct RankOrder {
 };
 
 /// All in which singles and doubles differ. The rules of play are written once, over these columns:
-/// a singles entrant is a side with one thrower, a team one with two.
+/// a singles entrant is a side with one pitcher, a team one with two.
 struct PlayFormat {
   QString code;  ///< "S" or "D", as a class stores it
   QString gameTable;
   QString entrantTable;
   QString entrantID;  ///< "PlayerID" or "TeamID"
   std::array<SideColumns, 2> sides;
-  QList<ThrowerColumns> throwers;    ///< in playing order
+  QList<PitcherColumns> pitchers;    ///< in playing order
   Value pacerID;                     ///< stands in a game for the pacer
-  QStringList pacerThrowers;         ///< and for the pacer's players
+  QStringList pacerPitchers;         ///< and for the pacer's players
   bool forgivesTypingSlips = false;  ///< a new game takes 0 for a figure that is no number
 
   QString gamesStatement;                 ///< takes sanction and class; ordered by Game, Court
@@ -61,12 +61,12 @@ struct PlayFormat {
   QString reportStatement;                ///< the standings as the after-play reports read them
   QList<Field> listFields;                ///< of the class list, with "PlayerNumber" last
   QList<QPair<QString, Value>> pacerRow;  ///< the pacer as the class list shows it
-  /// Places in the rows above that the throwers' roster fills, and its columns. An entrant who is
+  /// Places in the rows above that the pitchers' roster fills, and its columns. An entrant who is
   /// not on the roster is in no list then.
   QList<QPair<QString, QString>> rosterFields;
 
   QString standingsName;          ///< the entrant's name in a row of the standings
-  QStringList standingsRingers;   ///< ringers by thrower in a row of the standings
+  QStringList standingsRingers;   ///< ringers by pitcher in a row of the standings
   bool hasOverride = false;       ///< the director may set the places by hand
   bool pacerHasHandicap = false;  ///< on the pacer's card
   QString pacerOnCards;        ///< the pacer as somebody's opponent there; empty: his number alone

@@ -143,7 +143,7 @@ void PlayScreen::StoreChoices() {
 }
 
 bool PlayScreen::IsSingles() const {
-  return format_.throwers.size() == 1;
+  return format_.pitchers.size() == 1;
 }
 
 // Choosing a class
@@ -245,8 +245,8 @@ void PlayScreen::NameEntrants() {
   const EntrantLists lists = NamesForScores(data_->connection, data_->loaded);
   for (const SideColumns& side : format_.sides) {
     GridEX1_->SetValueList(side.id, lists.entrants);
-    if (side.throwers.size() < 2) continue;
-    for (const QString& thrower : side.throwers) GridEX1_->SetValueList(thrower, lists.throwers);
+    if (side.pitchers.size() < 2) continue;
+    for (const QString& pitcher : side.pitchers) GridEX1_->SetValueList(pitcher, lists.pitchers);
   }
   QStringList names;
   for (int i = 0; i < data_->loaded.list.RecordCount(); ++i)

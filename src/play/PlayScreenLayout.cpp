@@ -36,7 +36,7 @@ QComboBox* NewCombo(const QString& name, const QString& spoken, int characters, 
 }  // namespace
 
 void PlayScreen::BuildControls() {
-  const bool doubles = format_.throwers.size() > 1;
+  const bool doubles = format_.pitchers.size() > 1;
   cboTournaments_ = new TournamentBox(this);
   cboClasses_ = NewCombo("cboClasses", "Class", 18, this);
   cmdLoad_ = NewControl<QPushButton>("cmdLoad", "Load", this);

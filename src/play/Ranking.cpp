@@ -58,15 +58,15 @@ void FillNames(Connection& connection, const PlayFormat& format, Recordset& rows
   QStringList ids, columns;
   for (const auto& [field, column] : format.rosterFields) columns << column;
   EachRow(rows, [&] {
-    for (const ThrowerColumns& thrower : format.throwers) ids << rows[thrower.id].ToText();
+    for (const PitcherColumns& pitcher : format.pitchers) ids << rows[pitcher.id].ToText();
   });
   const ByID<PersonName> names = PlayerNames(connection, ids, columns);
   if (!columns.isEmpty()) DropStrangers(rows, format.entrantID, names);
   EachRow(rows, [&] {
-    for (const ThrowerColumns& thrower : format.throwers) {
-      const PersonName name = NameOrNumber(names, rows[thrower.id].ToText());
-      const int width = rows.Fields()[rows.FieldIndex(thrower.fullName)].size;
-      rows.Set(thrower.fullName, name.Full().left(width));
+    for (const PitcherColumns& pitcher : format.pitchers) {
+      const PersonName name = NameOrNumber(names, rows[pitcher.id].ToText());
+      const int width = rows.Fields()[rows.FieldIndex(pitcher.fullName)].size;
+      rows.Set(pitcher.fullName, name.Full().left(width));
       for (const auto& [field, column] : format.rosterFields) rows.Set(field, name.values[column]);
     }
   });

@@ -19,7 +19,7 @@ EntrantLists NamesForScores(Connection& connection, const LoadedClass& loaded) {
   for (const Game& game : ReadGames(loaded.games, format)) {
     for (const GameSide& side : game.sides) {
       collect(ids, {side.id});
-      collect(players, side.throwers);
+      collect(players, side.pitchers);
     }
   }
 
@@ -29,9 +29,9 @@ EntrantLists NamesForScores(Connection& connection, const LoadedClass& loaded) {
     lists.entrants.Add(id, format.IsPacer(id) ? "PACER" : names.value(id, NotOnFile(id)));
   const ByID<PersonName> people = PlayerNames(connection, players);
   for (const QString& id : players) {
-    const qsizetype pacer = format.pacerThrowers.indexOf(id);
+    const qsizetype pacer = format.pacerPitchers.indexOf(id);
     const QString name = NameOrNumber(people, id).Full();
-    lists.throwers.Add(id, pacer < 0 ? name : QString("PACER %1").arg(pacer + 1));
+    lists.pitchers.Add(id, pacer < 0 ? name : QString("PACER %1").arg(pacer + 1));
   }
   return lists;
 }

@@ -10,7 +10,7 @@ struct LoadedClass;
 /// Who can be chosen in the score grid, and what everybody in its rows is called.
 struct EntrantLists {
   ValueList entrants;
-  ValueList throwers;  ///< the players of the teams
+  ValueList pitchers;  ///< the players of the teams
 };
 
 /// The entrants in the order of their numbers, the pacer, and last those who stand in a game

@@ -18,11 +18,11 @@ void AddResult(Totals& totals, Outcome outcome) {
 }
 
 void AddFigures(Totals& totals, const GameSide& side, int shoes) {
-  totals.shoes += shoes * static_cast<int>(side.throwers.size());
+  totals.shoes += shoes * static_cast<int>(side.pitchers.size());
   totals.ringers += side.Ringers();
   totals.points += side.points;
-  totals.throwerShoes += shoes;
-  for (qsizetype i = 0; i < side.ringers.size(); ++i) totals.throwerRingers[i] += side.ringers[i];
+  totals.pitcherShoes += shoes;
+  for (qsizetype i = 0; i < side.ringers.size(); ++i) totals.pitcherRingers[i] += side.ringers[i];
 }
 
 /// The columns to set in an entry, with their values, in the order of the statement.
@@ -50,9 +50,9 @@ Assignments TotalsOf(const Totals& totals) {
 Recordset OpenEntries(Connection& connection, const ClassRules& rules) {
   const PlayFormat& format = FormatOf(rules);
   QStringList columns = {format.entrantID};
-  for (const ThrowerColumns& thrower : format.throwers) {
-    if (thrower.id != format.entrantID) columns << thrower.id;
-    columns << thrower.hiGame;
+  for (const PitcherColumns& pitcher : format.pitchers) {
+    if (pitcher.id != format.entrantID) columns << pitcher.id;
+    columns << pitcher.hiGame;
   }
   Recordset rows;
   rows.Open(QStringLiteral("SELECT %1 FROM %2 WHERE SanctionID = ? AND ClassID = ?")
@@ -71,7 +71,7 @@ ByID<Totals> AddUp(const QList<Game>& games, const PlayFormat& format) {
       const GameSide& side = game.sides[static_cast<size_t>(i)];
       if (format.IsPacer(side.id)) continue;
       Totals& totals = all[side.id];
-      totals.throwerRingers.resize(side.ringers.size());
+      totals.pitcherRingers.resize(side.ringers.size());
       AddResult(totals, OutcomeOf(game, i, format));
       if (!side.forfeit) AddFigures(totals, side, game.shoes);
     }
@@ -79,13 +79,13 @@ ByID<Totals> AddUp(const QList<Game>& games, const PlayFormat& format) {
   return all;
 }
 
-ByID<float> HighGames(const QList<Game>& games, qsizetype thrower) {
+ByID<float> HighGames(const QList<Game>& games, qsizetype pitcher) {
   ByID<float> best;
   for (const Game& game : games) {
     if (!game.approved || game.shoes <= 0) continue;
     for (const GameSide& side : game.sides) {
-      const double percent = RingerPercentage(side.ringers[thrower], game.shoes);
-      float& high = best[side.throwers[thrower]];
+      const double percent = RingerPercentage(side.ringers[pitcher], game.shoes);
+      float& high = best[side.pitchers[pitcher]];
       if (percent > double{high}) high = static_cast<float>(percent);
     }
   }
@@ -96,19 +96,19 @@ void WriteTotals(Connection& connection, const ClassRules& rules, const QList<Ga
   const PlayFormat& format = FormatOf(rules);
   const ByID<Totals> all = AddUp(games, format);
   QList<ByID<float>> high;
-  for (qsizetype i = 0; i < format.throwers.size(); ++i) high << HighGames(games, i);
+  for (qsizetype i = 0; i < format.pitchers.size(); ++i) high << HighGames(games, i);
 
   for (Recordset rows = OpenEntries(connection, rules); !rows.AtEnd(); rows.MoveNext()) {
     const Value id = rows[format.entrantID];
     const Totals totals = all.value(id.Trimmed());
     Assignments set = TotalsOf(totals);
-    for (qsizetype i = 0; i < format.throwers.size(); ++i) {
-      const ThrowerColumns& thrower = format.throwers[i];
-      set.Set(thrower.ringers, totals.throwerRingers.value(i));
-      set.Set(thrower.shoes, totals.throwerShoes);
-      const auto best = double{high[i].value(rows[thrower.id].Trimmed())};
-      const Value stored = rows[thrower.hiGame];
-      set.Set(thrower.hiGame, best > stored.ToNumber() ? Value(best) : stored);
+    for (qsizetype i = 0; i < format.pitchers.size(); ++i) {
+      const PitcherColumns& pitcher = format.pitchers[i];
+      set.Set(pitcher.ringers, totals.pitcherRingers.value(i));
+      set.Set(pitcher.shoes, totals.pitcherShoes);
+      const auto best = double{high[i].value(rows[pitcher.id].Trimmed())};
+      const Value stored = rows[pitcher.hiGame];
+      set.Set(pitcher.hiGame, best > stored.ToNumber() ? Value(best) : stored);
     }
     connection.Execute(
         QStringLiteral("UPDATE %1 SET %2 WHERE SanctionID = ? AND ClassID = ? AND %3 = ?")

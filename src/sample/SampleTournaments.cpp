@@ -76,32 +76,32 @@ void EnterPlayers(Work& work, const SampleClass& plan) {
   }
 }
 
-double SkillOf(const Work& work, const Recordset& games, const QString& thrower) {
-  const SamplePlayer* player = work.byID.value(games[thrower].ToText());
+double SkillOf(const Work& work, const Recordset& games, const QString& pitcher) {
+  const SamplePlayer* player = work.byID.value(games[pitcher].ToText());
   return player == nullptr ? 0 : player->skill;
 }
 
-void WriteSide(Recordset& games, const SideColumns& columns, int thrower,
+void WriteSide(Recordset& games, const SideColumns& columns, int pitcher,
                const PitchedSide& pitched) {
   games.Set(columns.points, games[columns.points].ToWhole() + pitched.points);
-  games.Set(columns.ringers[thrower], pitched.ringers);
+  games.Set(columns.ringers[pitcher], pitched.ringers);
   if (!columns.singlePoints.isEmpty()) games.Set(columns.singlePoints, pitched.singlePoints);
 }
 
-/// Partners throw from opposite ends, each against the opponent at his end; their points add up.
+/// Partners pitch from opposite ends, each against the opponent at his end; their points add up.
 void ScoreGame(Work& work, Recordset& games, const PlayFormat& format) {
   const auto& [one, two] = format.sides;
-  for (int thrower = 0; thrower < one.throwers.size(); ++thrower) {
-    const double skillOne = SkillOf(work, games, one.throwers[thrower]);
-    const double skillTwo = SkillOf(work, games, two.throwers[thrower]);
+  for (int pitcher = 0; pitcher < one.pitchers.size(); ++pitcher) {
+    const double skillOne = SkillOf(work, games, one.pitchers[pitcher]);
+    const double skillTwo = SkillOf(work, games, two.pitchers[pitcher]);
     if (format.IsPacer(games[two.id].ToText())) {
-      WriteSide(games, one, thrower, PitchAlone(work.dice, skillOne, ShoesAGame));
+      WriteSide(games, one, pitcher, PitchAlone(work.dice, skillOne, ShoesAGame));
     } else if (format.IsPacer(games[one.id].ToText())) {
-      WriteSide(games, two, thrower, PitchAlone(work.dice, skillTwo, ShoesAGame));
+      WriteSide(games, two, pitcher, PitchAlone(work.dice, skillTwo, ShoesAGame));
     } else {
       const auto pitched = PitchGame(work.dice, {skillOne, skillTwo}, ShoesAGame);
-      WriteSide(games, one, thrower, pitched[0]);
-      WriteSide(games, two, thrower, pitched[1]);
+      WriteSide(games, one, pitcher, pitched[0]);
+      WriteSide(games, two, pitcher, pitched[1]);
     }
   }
   games.Set("Approved", true);
@@ -118,7 +118,7 @@ void PlayClass(Work& work, const SampleClass& plan, const ClassRules& rules) {
   for (; left > 0; --left, loaded.games.MoveNext()) ScoreGame(work, loaded.games, FormatOf(rules));
 }
 
-/// High games by thrower, which the standings do not carry.
+/// High games by pitcher, which the standings do not carry.
 QHash<QString, double> HighGames(Work& work, const ClassRules& rules) {
   const PlayFormat& format = FormatOf(rules);
   Recordset entries;
@@ -127,8 +127,8 @@ QHash<QString, double> HighGames(Work& work, const ClassRules& rules) {
                work.connection, Recordset::Lock::ReadOnly, {rules.sanctionID, rules.classID});
   QHash<QString, double> high;
   for (; !entries.AtEnd(); entries.MoveNext()) {
-    for (const ThrowerColumns& thrower : format.throwers) {
-      high[entries[thrower.id].ToText()] = entries[thrower.hiGame].ToNumber();
+    for (const PitcherColumns& pitcher : format.pitchers) {
+      high[entries[pitcher.id].ToText()] = entries[pitcher.hiGame].ToNumber();
     }
   }
   return high;
@@ -137,16 +137,16 @@ QHash<QString, double> HighGames(Work& work, const ClassRules& rules) {
 /// The results of a ranked class as they stand in the players' statistics.
 void PostClass(Work& work, const ClassRules& rules, Standings& standings) {
   const QHash<QString, double> high = HighGames(work, rules);
-  const QList<ThrowerColumns>& throwers = FormatOf(rules).throwers;
+  const QList<PitcherColumns>& pitchers = FormatOf(rules).pitchers;
   Recordset& rows = standings.rows;
   for (int place = 1; !rows.AtEnd(); rows.MoveNext(), ++place) {
-    for (const ThrowerColumns& thrower : throwers) {
-      const QString id = rows[thrower.id].ToText();
+    for (const PitcherColumns& pitcher : pitchers) {
+      const QString id = rows[pitcher.id].ToText();
       const QString ringers =
-          thrower.ringers.isEmpty() ? QStringLiteral("Ringers") : thrower.ringers;
+          pitcher.ringers.isEmpty() ? QStringLiteral("Ringers") : pitcher.ringers;
       work.connection.Execute(
           "INSERT INTO PlayerScores VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-          {rules.sanctionID, id, rows["Shoes"].ToWhole() / throwers.size(), rows[ringers],
+          {rules.sanctionID, id, rows["Shoes"].ToWhole() / pitchers.size(), rows[ringers],
            work.byID.value(id)->category, rows["Won"], rows["Loss"], place, high.value(id),
            rows["Points"], 0, rules.classID});
     }

@@ -11,15 +11,15 @@
 namespace tavrelin {
 namespace {
 
-constexpr int kSingles = 3;
-constexpr int kBatch = 400;
+constexpr int SingleRows = 3;
+constexpr int RowsInBatch = 400;
 
 // The struck program: single rows, each acknowledged when it is on disk, then a batch.
 TEST(FaultWorker, DISABLED_WritesRows) {
   Connection connection;
   try {
     connection.Open(QStringLiteral("DBQ=%1;").arg(qEnvironmentVariable("TAVRELIN_FAULT_FILE")));
-    for (int row = 1; row <= kSingles; ++row) {
+    for (int row = 1; row <= SingleRows; ++row) {
       connection.Execute("INSERT INTO Games VALUES(?, 'single')", {Value(row)});
       std::printf("acknowledged %d\n", row);
       std::fflush(stdout);
@@ -27,7 +27,7 @@ TEST(FaultWorker, DISABLED_WritesRows) {
     {
       Batch batch(connection);
       const QString wide(200, u'x');
-      for (int row = 1; row <= kBatch; ++row) {
+      for (int row = 1; row <= RowsInBatch; ++row) {
         connection.Execute("INSERT INTO Games VALUES(?, ?)", {Value(row), Value(wide)});
       }
       batch.Commit();
@@ -45,7 +45,7 @@ TEST(FaultWorker, DISABLED_GoesOnAfterARefusal) {
   try {
     Batch batch(connection);
     const QString wide(200, u'x');
-    for (int row = 1; row <= 20 * kBatch; ++row) {
+    for (int row = 1; row <= 20 * RowsInBatch; ++row) {
       try {
         connection.Execute("INSERT INTO Games VALUES(?, ?)", {Value(row), Value(wide)});
       } catch (const Error&) {
@@ -73,9 +73,9 @@ struct FaultTest : ClubFixture {
     connection.Close();
     EXPECT_EQ(Raw("PRAGMA integrity_check"), "ok") << at;
     EXPECT_GE(singles, output.count(QRegularExpression("acknowledged \\d"))) << at;
-    EXPECT_TRUE(batch == 0 || batch == kBatch) << at << ": " << batch;
+    EXPECT_TRUE(batch == 0 || batch == RowsInBatch) << at << ": " << batch;
     if (output.contains("acknowledged batch")) {
-      EXPECT_EQ(batch, kBatch) << at;
+      EXPECT_EQ(batch, RowsInBatch) << at;
     }
   }
 
@@ -97,7 +97,7 @@ TEST_F(FaultTest, KilledAtAnyWriteNothingAcknowledgedIsLost) {
 }
 
 TEST_F(FaultTest, KilledWhileAJournalIsRemovedNothingAcknowledgedIsLost) {
-  for (int at = 1; at <= kSingles + 1; ++at) {
+  for (int at = 1; at <= SingleRows + 1; ++at) {
     Refill();
     const FaultBench::Outcome outcome = bench.KillAt(at, worker, "unlink");
     if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";

@@ -75,7 +75,7 @@ struct FileGone : ClubFixture, testing::WithParamInterface<Harm> {
   Recordset rows;
 };
 
-const QRegularExpression kSentence(
+const QRegularExpression GoneSentence(
     "^The file .+ (was replaced, moved, deleted or cut short while it was open, and nothing was "
     "written\\. Leave the screen|is damaged\\. Close the program).+\\.$");
 
@@ -83,7 +83,7 @@ TEST_P(FileGone, TheNextRowIsRefusedWithASentenceAndStaysTyped) {
   Strike();
   rows.Set("LastName", "Olson");
   const QString said = Sentence([&] { rows.Update(); });
-  EXPECT_TRUE(kSentence.match(said).hasMatch()) << said.toStdString();
+  EXPECT_TRUE(GoneSentence.match(said).hasMatch()) << said.toStdString();
   EXPECT_TRUE(rows.IsEditing());
   EXPECT_EQ(rows["LastName"], Value("Olson"));
   NothingWasWritten();
@@ -92,12 +92,12 @@ TEST_P(FileGone, TheNextRowIsRefusedWithASentenceAndStaysTyped) {
 TEST_P(FileGone, ANewRowAndADeletionAreRefused) {
   Strike();
   const QString deletion = Sentence([&] { rows.Delete(); });
-  EXPECT_TRUE(kSentence.match(deletion).hasMatch()) << deletion.toStdString();
+  EXPECT_TRUE(GoneSentence.match(deletion).hasMatch()) << deletion.toStdString();
   EXPECT_EQ(rows.RecordCount(), 3);
   rows.AddNew();
   rows.Set("LastName", "Olson");
   const QString addition = Sentence([&] { rows.Update(); });
-  EXPECT_TRUE(kSentence.match(addition).hasMatch()) << addition.toStdString();
+  EXPECT_TRUE(GoneSentence.match(addition).hasMatch()) << addition.toStdString();
   NothingWasWritten();
 }
 
@@ -108,7 +108,7 @@ TEST_P(FileGone, ABatchThatIsUnderWayIsRefusedWhole) {
     Strike();
     batch.Commit();
   });
-  EXPECT_TRUE(kSentence.match(said).hasMatch()) << said.toStdString();
+  EXPECT_TRUE(GoneSentence.match(said).hasMatch()) << said.toStdString();
   NothingWasWritten();
 }
 

@@ -8,7 +8,7 @@
 namespace tavrelin {
 namespace {
 
-constexpr const char* kTables[] = {
+constexpr const char* Tables[] = {
     "CREATE TABLE Players (PlayerID TEXT(6), FirstName TEXT(20), LastName TEXT(25), Category "
     "VARCHAR(1), CardNumber TEXT(6), CardYear TEXT(4), Telephone TEXT(10), AddressOne TEXT(40), "
     "City "
@@ -62,7 +62,7 @@ struct Change {
   int rows = 0;
 };
 
-constexpr Change kUpgrade[] = {
+constexpr Change UpgradeSteps[] = {
     {"CREATE TABLE SystemSettings ( SettingID INT, PromptValue CHAR(50), SettingValue CHAR(20)) "},
     {"INSERT INTO SystemSettings VALUES(1, 'Round Robin Cards Vertical Adjustment', 0)", 1},
     {"INSERT INTO SystemSettings VALUES(2, 'Round Robin Cards Horizontal Adjustment', 0)", 1},
@@ -129,7 +129,7 @@ constexpr Change kUpgrade[] = {
     {"UPDATE Players SET Email = '' WHERE Email IS NULL", 1},
 };
 
-constexpr Change kChanges[] = {
+constexpr Change Changes[] = {
     {"UPDATE TournamentEntrants SET TotalShoes = 0, TotalRingers = 0, TotalPoints = 0, TotalWins = "
      "0, TotalLosses = 0 WHERE SanctionID = 'PA24001' AND ClassID = 'A' ",
      1},
@@ -181,7 +181,7 @@ struct Query {
   int rows;
 };
 
-const std::vector<Query> kQueries = {
+const std::vector<Query> Queries = {
     {"SELECT * FROM SystemSettings WHERE SettingID = 0", 3, 1},
     {"SELECT COUNT(*) FROM ScoreSheet WHERE 1 = 2", 1, 1},
     {"SELECT Wins FROM PlayerScores WHERE 1 = 2", 1, 0},
@@ -289,7 +289,7 @@ const std::vector<Query> kQueries = {
 struct StatementTexts : ClubFixture {
   StatementTexts() {
     Batch all(connection);
-    for (const char* table : kTables) Run(QString::fromUtf8(table));
+    for (const char* table : Tables) Run(QString::fromUtf8(table));
     Run("INSERT INTO PLAYERS VALUES('000001', 'Ann', 'O''Brien', 'M', 'PA0001', '2024', Null, '', "
         "Null, Null, Null, #1/2/1950#, 3, '', 61.5)");
     Run("INSERT INTO PlayerScores VALUES('PA24001', '000001', 40, 25, 'M')");
@@ -319,7 +319,7 @@ struct StatementTexts : ClubFixture {
         "30, 2)");
   }
   void Upgrade() {
-    for (const Change& change : kUpgrade) {
+    for (const Change& change : UpgradeSteps) {
       EXPECT_EQ(Run(QString::fromUtf8(change.sql)), change.rows) << change.sql;
     }
   }
@@ -339,7 +339,7 @@ TEST_F(StatementTexts, EveryQueryRunsAsItStands) {
     Batch all(connection);
     Upgrade();
   }
-  for (const Query& query : kQueries) {
+  for (const Query& query : Queries) {
     Recordset rows;
     rows.Open(QString::fromUtf8(query.sql), connection);
     EXPECT_EQ(rows.Fields().size(), query.fields) << query.sql;
@@ -355,7 +355,7 @@ TEST_F(StatementTexts, EveryChangeRunsAsItStands) {
     Batch all(connection);
     Upgrade();
   }
-  for (const Change& change : kChanges) {
+  for (const Change& change : Changes) {
     EXPECT_EQ(Run(QString::fromUtf8(change.sql)), change.rows) << change.sql;
   }
   EXPECT_EQ(Raw("SELECT RankOverride FROM TournamentClasses"), "-1");

@@ -82,7 +82,7 @@ TEST_F(BoxScoresTest, ATeamBlockHasBothPartnersOverOnePlayersShoes) {
   StoreTeams({1, 0, {30, 20}, {{20, 30}, {0, 0}}, 40, true, {}, 2});
   const BoxScore block = Blocks()[0];
   EXPECT_EQ(block.name, "Team 1");
-  EXPECT_EQ(block.throwers, (QStringList{"Ann Of1", "Bob Of1"}));
+  EXPECT_EQ(block.pitchers, (QStringList{"Ann Of1", "Bob Of1"}));
   EXPECT_EQ(block.lines[0].opponent, "Team 2");
   EXPECT_EQ(block.lines[1].opponent, "PACER");
   EXPECT_EQ(block.lines[0].own.percents, (QList<double>{25, 50}));

@@ -363,7 +363,7 @@ void ExpectOnPaper(const CardJob& job, double courtRule) {
 TEST(CardSheets, NamesOfFortyFiveCharactersStayWholeAndInTheirRoom) {
   for (const Procedure procedure : {Procedure::OldMethod, Procedure::NewMethod, Procedure::World}) {
     CardJob job = SinglesJob(procedure);
-    job.cards[0].throwers = {{QString(20, 'M'), QString(25, 'M')}};
+    job.cards[0].pitchers = {{QString(20, 'M'), QString(25, 'M')}};
     job.cards[0].front = {QString(20, 'M'), QString(25, 'M')};
     for (CardLine& line : job.cards[0].lines) {
       if (!line.bye) line.opponent = QString(20, 'M') + ' ' + QString(25, 'M');

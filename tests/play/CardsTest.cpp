@@ -63,8 +63,8 @@ TEST_F(CardsTest, EachEntrantGetsHisGamesWithOpponentAndCourt) {
   const QList<Card> cards = Make(1, 3);
   ASSERT_EQ(cards.size(), 4);
   EXPECT_EQ(Lines(cards[0]), "1 4.P4 Stone c1, 2 3.P3 Stone c2, 3 2.P2 Stone c1");
-  EXPECT_EQ(cards[0].throwers[0].first, "P1");
-  EXPECT_EQ(cards[0].throwers[0].last, "Stone");
+  EXPECT_EQ(cards[0].pitchers[0].first, "P1");
+  EXPECT_EQ(cards[0].pitchers[0].last, "Stone");
   EXPECT_EQ(cards[0].state, "IA");
   EXPECT_EQ(cards[0].wins, "0");
 }
@@ -113,7 +113,7 @@ TEST_F(CardsTest, ATeamCardNamesBothPartnersAndThePacerHasAHandicap) {
   const QList<Card> cards = Make(1, 3);
   ASSERT_EQ(cards.size(), 4);
   EXPECT_EQ(Lines(cards[0]), "1 4.PACER c1, 2 3.Team 3 c2, 3 2.Team 2 c1");
-  EXPECT_EQ(cards[0].throwers[1].Full(), "Bob Of1");
+  EXPECT_EQ(cards[0].pitchers[1].Full(), "Bob Of1");
   EXPECT_EQ(cards[3].handicap, 60);  // not doubled on cards
 }
 
@@ -140,7 +140,7 @@ TEST_F(CardsTest, APartnerTakenOffTheRosterIsToldByHisNumberOnBothFaces) {
   Pair(OddEntrant::NotChosen);
   connection_.Execute("DELETE FROM Players WHERE PlayerID = '20001'");
   const Card card = Make(1, 1)[0];
-  EXPECT_EQ(card.throwers[1].Full(), "20001 (not on file)");
+  EXPECT_EQ(card.pitchers[1].Full(), "20001 (not on file)");
   EXPECT_EQ(card.front, (QStringList{"Of1", "20001 (not on file)"}));
 }
 

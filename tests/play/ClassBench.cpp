@@ -35,10 +35,10 @@ void ClassBench::AddTeams(int count) {
   for (int n = 1; n <= count; ++n) {
     connection_.Execute(QStringLiteral("INSERT INTO Teams (TeamID, Team) VALUES (?, ?)"),
                         {n, QStringLiteral("Team %1").arg(n)});
-    for (const int thrower : {0, 1}) {
+    for (const int pitcher : {0, 1}) {
       connection_.Execute(
           QStringLiteral("INSERT INTO Players (PlayerID, FirstName, LastName) VALUES (?, ?, ?)"),
-          {Partner(n, thrower), thrower == 0 ? "Ann" : "Bob", QStringLiteral("Of%1").arg(n)});
+          {Partner(n, pitcher), pitcher == 0 ? "Ann" : "Bob", QStringLiteral("Of%1").arg(n)});
     }
   }
 }
@@ -85,8 +85,8 @@ void ClassBench::Store(const Played& game, const QString& classID) {
 }
 
 void ClassBench::StoreTeams(const Played& game, const QString& classID) {
-  const auto player = [](int n, int thrower) {
-    return n == 0 ? QStringLiteral("PPPPP%1").arg(thrower + 1) : Partner(n, thrower);
+  const auto player = [](int n, int pitcher) {
+    return n == 0 ? QStringLiteral("PPPPP%1").arg(pitcher + 1) : Partner(n, pitcher);
   };
   connection_.Execute(
       QStringLiteral("INSERT INTO TournamentDoublesRR (SanctionID, ClassID, Game, Court, Shoes, "

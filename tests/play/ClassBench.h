@@ -14,7 +14,7 @@ struct Played {
   int one;
   int two;
   int points[2] = {0, 0};
-  QList<int> ringers[2] = {{0, 0}, {0, 0}};  ///< by thrower; singles read the first
+  QList<int> ringers[2] = {{0, 0}, {0, 0}};  ///< by pitcher; singles read the first
   int shoes = 40;
   bool approved = true;
   bool forfeit[2] = {false, false};
@@ -50,7 +50,7 @@ class ClassBench : public testing::Test {
   QStringList Rows(const QString& sql);
 
   static QString Player(int n) { return QString::number(n).rightJustified(6, u'0'); }
-  static QString Partner(int n, int thrower) { return QString::number((thrower + 1) * 10000 + n); }
+  static QString Partner(int n, int pitcher) { return QString::number((pitcher + 1) * 10000 + n); }
 
   QTemporaryDir folder_;
   QString path_;

@@ -115,7 +115,7 @@ TEST(Figures, HandicapGivesThreeHundredthsAShoeForEachPercent) {
     double best, average;
     int shoes;
     double percent;
-    int throwers, points;
+    int pitchers, points;
   } cases[] = {
       {60, 40, 40, 100, 1, 24},  // 20 percent of 40 shoes are 8 ringers of 3 points
       {60, 40, 40, 80, 1, 19},   // 19.2
@@ -127,7 +127,7 @@ TEST(Figures, HandicapGivesThreeHundredthsAShoeForEachPercent) {
       {50, 25, 50, 12, 1, 4},    // 4.5 goes to the even 4
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(HandicapFigure(c.best, c.average, c.shoes, c.percent, c.throwers), c.points)
+    EXPECT_EQ(HandicapFigure(c.best, c.average, c.shoes, c.percent, c.pitchers), c.points)
         << c.best << '-' << c.average << ' ' << c.shoes << ' ' << c.percent;
   }
 }

@@ -67,7 +67,7 @@ struct Line {
 void PlayFor(Line& line, const Played& game, int side) {
   const int other = 1 - side;
   const int opponent = side == 0 ? game.two : game.one;
-  const int throwers = static_cast<int>(std::min<qsizetype>(2, game.ringers[side].size()));
+  const int pitchers = static_cast<int>(std::min<qsizetype>(2, game.ringers[side].size()));
   int won = 1;
   if (game.forfeit[side]) {
     line.lostHalves += 2;
@@ -80,7 +80,7 @@ void PlayFor(Line& line, const Played& game, int side) {
   line.halves += won;
   line.lostHalves += 2 - won;
   line.points += game.points[side];
-  for (int i = 0; i < throwers; ++i) line.ringers += game.ringers[side][i];
+  for (int i = 0; i < pitchers; ++i) line.ringers += game.ringers[side][i];
   line.shoes += game.shoes;
 }
 

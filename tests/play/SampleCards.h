@@ -22,7 +22,7 @@ inline CardJob SinglesJob(CardProcedure procedure, int entrants = 1) {
   for (int n = 1; n <= entrants; ++n) {
     Card card;
     card.number = n;
-    card.throwers = {{QStringLiteral("Ann"), QStringLiteral("Stone%1").arg(n)}};
+    card.pitchers = {{QStringLiteral("Ann"), QStringLiteral("Stone%1").arg(n)}};
     card.front = {QStringLiteral("Ann"), QStringLiteral("Stone%1").arg(n)};
     card.state = QStringLiteral("IA");
     card.wins = QStringLiteral("3");
@@ -44,7 +44,7 @@ inline CardJob DoublesJob(CardProcedure procedure, int entrants = 1) {
   CardJob job = SinglesJob(procedure, entrants);
   job.doubles = true;
   for (Card& card : job.cards) {
-    card.throwers = {{QStringLiteral("Ann"), QStringLiteral("Stone")},
+    card.pitchers = {{QStringLiteral("Ann"), QStringLiteral("Stone")},
                      {QStringLiteral("Eve"), QStringLiteral("Field")}};
     card.front = {QStringLiteral("Stone"), QStringLiteral("Field")};
     for (CardLine& line : card.lines) {

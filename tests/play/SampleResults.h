@@ -4,7 +4,7 @@
 
 namespace tavrelin {
 
-/// A game of a box score: opponent, points of both, ringers by thrower, shoes.
+/// A game of a box score: opponent, points of both, ringers by pitcher, shoes.
 inline BoxLine GameLine(const QString& opponent, int points, int opposing, QList<int> ringers,
                         int shoes, const QString& mark = {}) {
   BoxLine line;
@@ -18,17 +18,17 @@ inline BoxLine GameLine(const QString& opponent, int points, int opposing, QList
 
 /// A box score whose totals are the sums of its lines.
 inline BoxScore Block(int place, const QString& name, const QList<BoxLine>& lines,
-                      const QStringList& throwers = {QString()}) {
+                      const QStringList& pitchers = {QString()}) {
   BoxScore block;
   block.place = place;
   block.name = name;
-  block.throwers = throwers;
+  block.pitchers = pitchers;
   block.lines = lines;
-  block.totals.ringers.resize(throwers.size());
+  block.totals.ringers.resize(pitchers.size());
   for (const BoxLine& line : lines) {
     block.totals.points += line.own.points;
     block.totals.shoes += line.own.shoes;
-    for (qsizetype i = 0; i < throwers.size(); ++i) block.totals.ringers[i] += line.own.ringers[i];
+    for (qsizetype i = 0; i < pitchers.size(); ++i) block.totals.ringers[i] += line.own.ringers[i];
     (line.own.points >= line.opposingPoints ? block.won : block.loss) += 1;
   }
   for (const int made : block.totals.ringers) {

@@ -78,7 +78,7 @@ TEST_F(TeamRankingTest, ATeamTakenOffTheFileLeavesTheListAndAPartnerIsToldByHisN
   const QList<BoxScore> blocks = BoxScores(connection_, standings);
   ASSERT_EQ(blocks.size(), 2);
   EXPECT_EQ(blocks[1].name, "Team 1");
-  EXPECT_EQ(blocks[1].throwers, (QStringList{"10001 (not on file)", "Bob Of1"}));
+  EXPECT_EQ(blocks[1].pitchers, (QStringList{"10001 (not on file)", "Bob Of1"}));
 }
 
 TEST_F(TeamRankingTest, HeadToHeadIsKeptByTeam) {
