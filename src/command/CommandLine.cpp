@@ -67,6 +67,10 @@ int RunCommandLine(const QList<Command>& commands, const QStringList& arguments,
   return exits::WrongUsage;
 }
 
+void Refuse(const Refusal& refusal) {
+  throw Error(errors::RecordState, refusal.sentence);
+}
+
 TextTable::TextTable(QTextStream& out, const QStringList& header) : out_(out) {
   out_ << header.join(QLatin1Char('\t')) << '\n';
 }

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "basic/Refusal.h"
 #include "basic/Value.h"
 
 class QTextStream;
@@ -23,6 +24,10 @@ inline constexpr int WrongUsage = 2;  ///< the command cannot be read; its usage
 
 /// Thrown by a command whose arguments make no sense; the usage is shown.
 class WrongUsage : public std::exception {};
+
+/// Ends a command with a rule's No: throws Error with its sentence, which RunCommandLine writes to
+/// the error stream.
+[[noreturn]] void Refuse(const Refusal& refusal);
 
 /// One command of tavrelinctl. A folder offers its own as a list, and main puts the lists together.
 struct Command {

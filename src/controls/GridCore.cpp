@@ -267,7 +267,7 @@ QString GridCore::FetchText(int row, const QString& key, const Value& value, con
 }
 
 int GridCore::FetchIcon(int row, const QString& key) {
-  GridFetchIcon event{row, key};
+  GridFetchIcon event{row, row > 0 ? model.Rows().PositionOfRow(row) : 0, key};
   if (!face.on.FetchIcon || fetchFailed_) return event.icon;
   try {
     face.on.FetchIcon(event);

@@ -52,6 +52,7 @@ struct GridDelete {
 /// A cell that is about to be painted, of any row. Read other cells of it with GridEX::ValueAt.
 struct GridFetchIcon {
   int row;
+  int position;    ///< of the row in the recordset, where the order may be another; 0: not stored
   QString column;  ///< key
   int icon = 1;    ///< number in the grid's icons, from 1; 0 shows none
 };

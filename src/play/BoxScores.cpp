@@ -1,6 +1,6 @@
 #include "play/BoxScores.h"
 
-#include "play/Figures.h"
+#include "basic/Figures.h"
 #include "play/PlayFormat.h"
 #include "play/Ranking.h"
 
@@ -30,7 +30,7 @@ BoxLine LineOf(const Game& game, int side, const ByID<QString>& names) {
 BoxFigures TotalsOf(const Recordset& row, const PlayFormat& format) {
   BoxFigures totals;
   totals.points = static_cast<int>(row[QStringLiteral("Points")].ToWhole());
-  totals.shoes = static_cast<int>(row[QStringLiteral("Shoes")].ToWhole() / format.pitchers.size());
+  totals.shoes = static_cast<int>(row[QStringLiteral("Shoes")].ToWhole()) / format.Pitchers();
   for (const QString& field : format.standingsRingers) {
     totals.ringers << static_cast<int>(row[field].ToWhole());
   }

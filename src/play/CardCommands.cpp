@@ -2,7 +2,6 @@
 
 #include <QTextStream>
 
-#include "basic/Error.h"
 #include "command/OptionReader.h"
 #include "command/PdfOption.h"
 #include "data/Connection.h"
@@ -60,14 +59,10 @@ CardOptions ReadOptions(const QStringList& arguments) {
   return options;
 }
 
-[[noreturn]] void Refuse(const QString& reason) {
-  throw Error(errors::RecordState, reason);
-}
-
 LoadedClass LoadPairedClass(Connection& connection, const QStringList& arguments) {
   LoadedClass loaded = LoadClass(connection, NamedClass(connection, arguments));
-  if (!loaded.refusal.isEmpty()) Refuse(loaded.refusal);
-  if (!loaded.isPaired) Refuse(QStringLiteral("The class has no games yet; pair it first"));
+  if (loaded.refusal) Refuse(loaded.refusal);
+  if (!loaded.isPaired) Refuse({QStringLiteral("The class has no games yet; pair it first")});
   return loaded;
 }
 
@@ -76,13 +71,13 @@ int NumberOf(const LoadedClass& loaded, const QString& entrantID) {
   for (int number = 1; number <= loaded.list.RecordCount(); ++number) {
     if (IDKey(loaded.list.CellAt(number, field).Trimmed()) == IDKey(entrantID)) return number;
   }
-  Refuse(QStringLiteral("\"%1\" is not entered in the class").arg(entrantID));
+  Refuse({QStringLiteral("\"%1\" is not entered in the class").arg(entrantID)});
 }
 
 CardSettings SettingsFor(Connection& connection, const LoadedClass& loaded,
                          const CardOptions& options) {
   if (options.style == CardStyle::TwoUp && !loaded.Format().hasTwoUpCards) {
-    Refuse(QStringLiteral("A doubles class has no cards of style 3"));
+    Refuse({QStringLiteral("A doubles class has no cards of style 3")});
   }
   CardSettings settings = ReadCardSettings(connection, loaded.Format());
   settings.style = options.style.value_or(settings.style);
@@ -90,7 +85,7 @@ CardSettings SettingsFor(Connection& connection, const LoadedClass& loaded,
 }
 
 void SaveJob(const CardJob& job, const QString& pdf, QTextStream& out) {
-  if (!job.refusal.isEmpty()) Refuse(job.refusal);
+  if (job.refusal) Refuse(job.refusal);
   const Report report = [&job](OutputTarget& target) { PrintCards(target, job); };
   SavePdf(Record(OutputTarget::Kind::Printer, job.name, report), pdf, out);
 }
@@ -111,7 +106,7 @@ int PrintTheWorksheet(const QStringList& arguments, QTextStream& out, QTextStrea
   Connection connection;
   connection.OpenSnapshot(FileConnectString(arguments[0]));
   const LoadedClass loaded = LoadClass(connection, NamedClass(connection, arguments));
-  if (!loaded.Format().hasTwoUpCards) Refuse(QStringLiteral("A doubles class has no worksheet"));
+  if (!loaded.Format().hasTwoUpCards) Refuse({QStringLiteral("A doubles class has no worksheet")});
   CardChoice choice;
   choice.worksheet = true;
   SaveJob(MakeCardJob(connection, loaded, {}, choice), arguments[4], out);

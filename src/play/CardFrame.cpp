@@ -41,7 +41,7 @@ CardFrame::CardFrame(const PlayFormat& format, QWidget* parent)
 }
 
 void CardFrame::BuildControls(const PlayFormat& format) {
-  const bool teams = format.pitchers.size() > 1;
+  const bool teams = format.IsDoubles();
   optFront_ = NewControl<QRadioButton>("optFront", "Front", this);
   optBack_ = NewControl<QRadioButton>("optBack", "Back", this);
   if (format.hasTwoUpCards)

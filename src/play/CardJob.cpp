@@ -15,7 +15,7 @@ void ReadTournament(Connection& connection, CardJob& job, const QString& sanctio
 
 void AddLines(Connection& connection, CardJob& job, const LoadedClass& loaded) {
   job.lines = Worksheet(connection, loaded);
-  if (job.lines.isEmpty()) job.refusal = QStringLiteral("No players to report");
+  if (job.lines.isEmpty()) job.refusal = {QStringLiteral("No players to report")};
 }
 
 void AddCards(Connection& connection, CardJob& job, const LoadedClass& loaded,
@@ -24,7 +24,7 @@ void AddCards(Connection& connection, CardJob& job, const LoadedClass& loaded,
   job.range = CardGames(choice.from, choice.to, loaded.list.RecordCount(),
                         world ? CardLimit::None : CardLimit::ElevenGames);
   job.refusal = job.range.refusal;
-  if (!job.refusal.isEmpty() || job.face == CardFace::None) return;
+  if (job.refusal || job.face == CardFace::None) return;
   job.cards =
       Cards(connection, loaded, job.range, world ? CardSide::ByNumber : CardSide::ByEntrant);
   if (choice.entrant > 0) job.cards = job.cards.mid(choice.entrant - 1, 1);
@@ -60,7 +60,7 @@ CardJob MakeCardJob(Connection& connection, const LoadedClass& loaded, const Car
   job.nextFace = choice.face;
   job.className = loaded.rules.name;
   job.shoes = loaded.rules.shoes;
-  job.doubles = loaded.Format().pitchers.size() > 1;
+  job.doubles = loaded.Format().IsDoubles();
   job.down = settings.DownShift();
   job.right = settings.RightShift();
   ReadTournament(connection, job, loaded.rules.sanctionID);

@@ -27,9 +27,9 @@ struct CardChoice {
 /// Everything that goes on paper after the operator pressed Print, or why nothing does.
 struct CardJob {
   CardProcedure procedure = CardProcedure::OldMethod;
-  QString name;      ///< of the job in the print queue
-  QString refusal;   ///< with a beep; empty when nothing stands against it
-  GameRange range;   ///< its refusal is set when the box "to" must be mended
+  QString name;     ///< of the job in the print queue
+  Refusal refusal;  ///< about "To" when the box for the last game must be mended
+  GameRange range;
   QString title;     ///< of the question
   QString question;  ///< Yes or No before anything is printed; mostly empty
   CardFace face = CardFace::Back;

@@ -3,8 +3,9 @@
 #include <algorithm>
 
 #include "basic/Conversions.h"
+#include "basic/Figures.h"
 #include "play/ClassLoad.h"
-#include "play/Figures.h"
+#include "play/StandingRows.h"
 
 namespace tavrelin {
 namespace {
@@ -126,7 +127,8 @@ GameRange CardGames(const QString& from, const QString& to, int entrants, CardLi
   GameRange range{std::max(WholeNumber(from), 1), WholeNumber(to), {}};
   if (range.to == 0) range.to = entrants % 2 == 1 ? entrants : entrants - 1;
   if (limit == CardLimit::ElevenGames && range.to - range.from > LargestSpan) {
-    range.refusal = QStringLiteral("Cannot print more than 11 games on card");
+    range.refusal = {QStringLiteral("Cannot print more than 11 games on card"),
+                     QStringLiteral("To")};
   }
   return range;
 }

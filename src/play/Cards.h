@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "basic/Refusal.h"
 #include "play/PlayFormat.h"
 
 namespace tavrelin {
@@ -15,7 +16,7 @@ struct LoadedClass;
 struct GameRange {
   int from = 1;
   int to = 0;
-  QString refusal;  ///< "Cannot print more than 11 games on card"; else empty
+  Refusal refusal;  ///< "Cannot print more than 11 games on card"; about "To"
 };
 
 /// How many games fit on a card; the two cards on a sheet are not held to it.

@@ -49,17 +49,15 @@ struct Figure {
 };
 
 QList<Figure> FiguresOf(const PlayFormat& format) {
-  const QString entrant =
-      format.pitchers.size() == 1 ? QStringLiteral("player") : QStringLiteral("team");
   const QString words[] = {QStringLiteral("one"), QStringLiteral("two")};
   QList<Figure> figures;
   for (size_t i = 0; i < 2; ++i) {
     const SideColumns& side = format.sides[i];
-    const QString who = QStringLiteral("Invalid %1 %2 ").arg(entrant, words[i]);
+    const QString who = QStringLiteral("Invalid %1 %2 ").arg(format.entrant, words[i]);
     figures << Figure{side.points, who + "points", i};
     for (const QString& ringers : side.ringers) {
-      const bool alone = side.ringers.size() == 1;
-      figures << Figure{ringers, alone ? who + "ringers" : QStringLiteral("Invalid ringers"), i};
+      figures << Figure{
+          ringers, format.IsDoubles() ? QStringLiteral("Invalid ringers") : who + "ringers", i};
     }
   }
   return figures;
@@ -89,11 +87,9 @@ class Checker {
     return false;
   }
 
-  /// Only singles count shoes and hold a score against them.
-  bool Counts() const { return !format_.sides[0].singlePoints.isEmpty(); }
-
   bool Shoes() {
-    if (!Counts() || FigureIn(row_.value(QStringLiteral("Shoes"))) <= ManyShoes) return true;
+    if (!format_.checksScores || FigureIn(row_.value(QStringLiteral("Shoes"))) <= ManyShoes)
+      return true;
     if (context_.manyShoes.has_value()) {
       return *context_.manyShoes || Refuse({});
     }
@@ -103,15 +99,15 @@ class Checker {
   }
 
   bool Score() {
-    if (!Counts() || !context_.scoreChecker) return true;
-    const QString wrong = CheckScore(row_, context_.rules.handicapPct);
-    return wrong.isEmpty() || Refuse(wrong);
+    if (!format_.checksScores || !context_.scoreChecker) return true;
+    const Refusal refusal = CheckScore(row_, context_.rules.handicapPct);
+    return !refusal || Refuse(refusal.sentence);
   }
 
   bool Sides() {
     check_.Fix(QStringLiteral("SanctionID"), context_.rules.sanctionID);
     check_.Fix(QStringLiteral("ClassID"), context_.rules.classID);
-    const QString entrant = Counts() ? QStringLiteral("Player") : QStringLiteral("Team");
+    const QString entrant = format_.IsDoubles() ? QStringLiteral("Team") : QStringLiteral("Player");
     for (size_t i = 0; i < 2; ++i) {
       if (!row_.value(format_.sides[i].id).Trimmed().isEmpty()) continue;
       return Refuse(QStringLiteral("Invalid %1 %2.").arg(entrant, i == 0 ? u"One" : u"Two"));
@@ -121,7 +117,7 @@ class Checker {
 
   /// Choosing a team chooses its players.
   bool Pitchers(const SideColumns& side) {
-    if (side.pitchers.first() == side.id) return true;
+    if (!side.IsTeam()) return true;
     const QString id = row_.value(side.id).Trimmed();
     if (format_.IsPacer(id)) {
       for (int i = 0; i < 2; ++i) check_.Fix(side.pitchers[i], format_.pacerPitchers[i]);
@@ -181,7 +177,7 @@ class Checker {
   /// They may stay empty without the score checker; a slip typed before it was switched off
   /// cannot be saved all the same.
   bool SinglePoints() {
-    for (size_t i = 0; i < 2 && Counts(); ++i) {
+    for (size_t i = 0; i < 2 && format_.checksScores; ++i) {
       const QString& field = format_.sides[i].singlePoints;
       const Value value = row_.value(field);
       if (value.IsNull() || IsInt(value)) continue;
@@ -213,9 +209,9 @@ class Checker {
 
 }  // namespace
 
-QString CheckScore(const RowValues& row, double handicapPct) {
+Refusal CheckScore(const RowValues& row, double handicapPct) {
   const auto& sides = SinglesFormat().sides;
-  const QString invalid = QStringLiteral("Score Checker On.  Invalid Score.");
+  const Refusal invalid = {QStringLiteral("Score Checker On.  Invalid Score.")};
   for (size_t i = 0; i < 2; ++i) {
     const QString& field = sides[i].singlePoints;
     if (!IsInt(row.value(field)) && !IsEmptyOfPacer(row, field, SinglesFormat(), i)) return invalid;
@@ -223,12 +219,12 @@ QString CheckScore(const RowValues& row, double handicapPct) {
   const Claim one = ClaimOf(row, sides[0]);
   const Claim two = ClaimOf(row, sides[1]);
   const QString tooHigh = QStringLiteral("Invalid Score for player %1.  Point total too high");
-  if (one.TooHigh()) return tooHigh.arg(u"one");
-  if (two.TooHigh()) return tooHigh.arg(u"two");
+  if (one.TooHigh()) return {tooHigh.arg(u"one")};
+  if (two.TooHigh()) return {tooHigh.arg(u"two")};
   if (!MarginAddsUp(one, two)) return invalid;
   const int shoes = FigureIn(row.value(QStringLiteral("Shoes")));
   if (handicapPct == 0 && (one.Counted() > shoes || two.Counted() > shoes)) {
-    return QStringLiteral("Score Checker On.  Invalid Score.  Check number of shoes.");
+    return {QStringLiteral("Score Checker On.  Invalid Score.  Check number of shoes.")};
   }
   return {};
 }

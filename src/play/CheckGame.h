@@ -28,8 +28,8 @@ struct GameContext {
 RowCheck CheckGame(const RowValues& row, const GameContext& context);
 
 /// The score checker: a ringer is three points and cancels one of the other side, and no shoe can
-/// count twice. The reason when the score cannot be right; empty when it can. In a handicap class
-/// the points do not follow from the shoes, and the shoes are not counted.
-QString CheckScore(const RowValues& row, double handicapPct);
+/// count twice. Refused when the score cannot be right. In a handicap class the points do not
+/// follow from the shoes, and the shoes are not counted.
+Refusal CheckScore(const RowValues& row, double handicapPct);
 
 }  // namespace tavrelin

@@ -43,9 +43,8 @@ void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>&
     for (const PitcherColumns& pitcher : format.pitchers)
       ids << entrant.values[pitcher.id].ToText();
   }
-  const bool needsRoster = !format.rosterFields.isEmpty();
   const ByID<PersonName> names = PlayerNames(connection, ids, {"State"});
-  if (needsRoster) {
+  if (format.listsRosterOnly) {
     entrants.removeIf([&](const Entrant& entrant) {
       return !names.contains(entrant.values[format.entrantID].ToText());
     });
@@ -55,7 +54,7 @@ void FillNames(Connection& connection, const PlayFormat& format, QList<Entrant>&
       const PersonName name = NameOrNumber(names, entrant.values[pitcher.id].ToText());
       entrant.values[pitcher.firstName] = name.first;
       entrant.values[pitcher.lastName] = name.last;
-      if (needsRoster)
+      if (format.listsRosterOnly)
         entrant.values[QStringLiteral("State")] = name.values[QStringLiteral("State")];
     }
   }
@@ -138,7 +137,7 @@ LoadedClass LoadClass(Connection& connection, const ClassRules& rules, bool with
   FillNames(connection, FormatOf(rules), entrants);
   loaded.entrants = static_cast<int>(entrants.size());
   if (entrants.isEmpty()) {
-    loaded.refusal = QStringLiteral("No players entered in class");
+    loaded.refusal = {QStringLiteral("No players entered in class")};
     loaded.list = MakeList(FormatOf(rules), {});
     return loaded;
   }

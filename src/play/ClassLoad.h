@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "basic/Refusal.h"
 #include "data/Recordset.h"
 #include "play/Game.h"
 #include "tournament/Classes.h"
@@ -32,7 +33,7 @@ struct LoadedClass {
   bool isPaired = false;  ///< games are stored
   QStringList courts;     ///< for an unpaired class: the numbers from 1, left-justified in three
   int highestGame = 0;
-  QString refusal;  ///< "No players entered in class", the list being empty then; else empty
+  Refusal refusal;  ///< "No players entered in class", the list being empty then
 
   const PlayFormat& Format() const;
   bool IsOdd() const { return entrants % 2 == 1; }

@@ -3,10 +3,11 @@
 #include <algorithm>
 
 #include "basic/Conversions.h"
+#include "basic/Figures.h"
 #include "data/Connection.h"
-#include "play/Figures.h"
 #include "play/PlayFormat.h"
 #include "play/Ranking.h"
+#include "play/StandingRows.h"
 #include "tournament/Tournaments.h"
 
 namespace tavrelin {
@@ -60,8 +61,8 @@ QList<StandingLine> StandingLines(const Standings& standings) {
   for (int position = 1; position <= standings.rows.RecordCount(); ++position) {
     StandingLine line = LineAt(RowReader(standings.rows, position), format);
     line.place = position;
-    line.handicap = HandicapFigure(best, line.entryAverage, rules.shoes, rules.handicapPct,
-                                   static_cast<int>(format.pitchers.size()));
+    line.handicap =
+        HandicapFigure(best, line.entryAverage, rules.shoes, rules.handicapPct, format.Pitchers());
     lines << line;
   }
   return lines;
@@ -72,7 +73,7 @@ ClassResults ReadResults(Connection& connection, Standings& standings) {
   results.sanctionID = standings.rules.sanctionID;
   results.className = standings.rules.name;
   results.rankBasis = standings.rankBasis;
-  results.doubles = FormatOf(standings.rules).pitchers.size() > 1;
+  results.doubles = FormatOf(standings.rules).IsDoubles();
   if (const auto tournament = FindTournament(connection, results.sanctionID)) {
     results.tournament = tournament->name;
     results.date = tournament->date;

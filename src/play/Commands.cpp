@@ -2,7 +2,6 @@
 
 #include <QTextStream>
 
-#include "basic/Error.h"
 #include "command/OptionReader.h"
 #include "data/Connection.h"
 #include "play/Pairing.h"
@@ -13,11 +12,6 @@ namespace tavrelin {
 namespace {
 
 constexpr int MostRounds = 4;
-
-int Refuse(QTextStream& err, const QString& message) {
-  err << message << '\n';
-  return exits::Refused;
-}
 
 struct PairOptions {
   OddEntrant odd = OddEntrant::NotChosen;
@@ -64,63 +58,45 @@ int Pair(const QStringList& arguments, QTextStream&, QTextStream& err) {
   const LoadedClass loaded = LoadClass(connection, rules);
   const QStringList courts = chosen.courts.value_or(loaded.courts);
   if (loaded.IsOdd() && chosen.odd == OddEntrant::Bye) {
-    const CourtRemark remark = CheckByeCourts(courts);
-    if (!remark.text.isEmpty() && !remark.isAdvice) return Refuse(err, remark.text);
-    if (remark.isAdvice) err << remark.text << '\n';
+    if (const Refusal refusal = CheckByeCourts(courts)) Refuse(refusal);
+    const QString advice = ByeCourtAdvice(courts);
+    if (!advice.isEmpty()) err << advice << '\n';
   }
-  const QString refusal = CreatePairing(connection, rules, {courts, chosen.rounds, chosen.odd});
-  return refusal.isEmpty() ? exits::Done : Refuse(err, refusal);
+  const PairingChoice choice = {courts, chosen.rounds, chosen.odd};
+  if (const Refusal refusal = CreatePairing(connection, rules, choice)) Refuse(refusal);
+  return exits::Done;
 }
 
-/// The columns that only the entry holds, by pitcher.
-QStringList EntryColumns(const PlayFormat& format) {
-  QStringList columns;
+/// What is shown of each pitcher beside the entrant's own columns.
+QStringList PitcherFields(const PlayFormat& format) {
+  QStringList fields;
   for (const PitcherColumns& pitcher : format.pitchers) {
-    for (const QString& column : {pitcher.id, pitcher.ringers, pitcher.shoes, pitcher.hiGame}) {
-      if (!column.isEmpty() && column != format.entrantID) columns << column;
+    for (const QString& field : {pitcher.id, pitcher.ringers, pitcher.shoes, pitcher.hiGame}) {
+      if (!field.isEmpty() && field != format.entrantID) fields << field;
     }
   }
-  return columns;
+  return fields;
 }
 
-ByID<QList<Value>> ReadEntryColumns(Connection& connection, const ClassRules& rules) {
-  const PlayFormat& format = FormatOf(rules);
-  ByID<QList<Value>> entries;
-  Recordset rows;
-  rows.Open(QStringLiteral("SELECT %1, %2 FROM %3 WHERE SanctionID = ? AND ClassID = ?")
-                .arg(format.entrantID, EntryColumns(format).join(u", "), format.entrantTable),
-            connection, Recordset::Lock::ReadOnly, {rules.sanctionID, rules.classID});
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    QList<Value>& cells = entries[rows.At(0).ToText()];
-    for (int i = 1; i < rows.Fields().size(); ++i) cells << rows.At(i);
-  }
-  return entries;
-}
-
-void WriteStandings(Connection& connection, Standings& standings, QTextStream& out) {
+void WriteStandings(const Standings& standings, QTextStream& out) {
   const PlayFormat& format = FormatOf(standings.rules);
-  const QStringList shown = {
-      format.entrantID, format.standingsName, "Won",    "Loss",        "Shoes",
-      "Ringers",        "RingerPercent",      "Points", "OverAverage", "HeadToHead"};
-  const ByID<QList<Value>> entries = ReadEntryColumns(connection, standings.rules);
-  TextTable table(out, QStringList{"Rank"} + shown + EntryColumns(format));
-  int place = 0;
-  for (Recordset& rows = standings.rows; !rows.AtEnd(); rows.MoveNext()) {
-    QList<Value> cells = {++place};
-    for (const QString& field : shown) cells << rows[field];
-    table.Row(cells + entries.value(rows[format.entrantID].ToText()));
-  }
+  const QStringList fields = {"Rank",        format.entrantID, format.standingsName,
+                              "Won",         "Loss",           "Shoes",
+                              "Ringers",     "RingerPercent",  "Points",
+                              "OverAverage", "HeadToHead"};
+  WriteRecordset(out, standings.rows, fields + PitcherFields(format));
 }
 
-int ShowStandings(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+int ShowStandings(const QStringList& arguments, QTextStream& out, QTextStream&) {
   const QStringList options = arguments.sliced(3);
   if (!options.isEmpty() && options != QStringList{"--override"}) throw WrongUsage();
   Connection connection;
   connection.OpenSnapshot(FileConnectString(arguments[0]));
   const ClassRules rules = NamedClass(connection, arguments);
-  Standings standings = RankTheClass(connection, rules, {.honourOverride = !options.isEmpty()});
-  if (!standings.refusal.isEmpty()) return Refuse(err, standings.refusal);
-  WriteStandings(connection, standings, out);
+  const auto order = options.isEmpty() ? StandingOrder::Computed : StandingOrder::Directed;
+  const Standings standings = RankTheClass(connection, rules, order);
+  if (standings.refusal) Refuse(standings.refusal);
+  WriteStandings(standings, out);
   return exits::Done;
 }
 
@@ -130,8 +106,7 @@ ClassRules NamedClass(Connection& connection, const QStringList& arguments) {
   const QString sanctionID = QString(arguments[1]).remove(u'-');
   const std::optional<ClassRules> rules = FindClass(connection, sanctionID, arguments[2]);
   if (rules) return *rules;
-  throw Error(errors::RecordState,
-              QStringLiteral("Tournament %1 has no class \"%2\"").arg(arguments[1], arguments[2]));
+  Refuse({QStringLiteral("Tournament %1 has no class \"%2\"").arg(arguments[1], arguments[2])});
 }
 
 QList<Command> PlayCommands() {

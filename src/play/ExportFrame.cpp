@@ -27,9 +27,8 @@ ExportFrame::ExportFrame(const PlayFormat& format, QWidget* parent)
       txtPath_(NewBox("txtPath", "Path", this)),
       txtFile_(NewBox("txtFile", "File", this)) {
   setObjectName("Frame4");
-  const bool doubles = format.pitchers.size() > 1;
   auto* cmdExport =
-      NewControl<QPushButton>("cmdExport", doubles ? "Export Results" : "Export", this);
+      NewControl<QPushButton>("cmdExport", format.IsDoubles() ? "Export Results" : "Export", this);
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 8, 16, 8);
   grid->setSpacing(8);

@@ -8,22 +8,10 @@
 #include "players/ByID.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
+
 namespace {
-
-/// The places of one side's columns in a recordset; -1 for a column the format lacks.
-struct SideIndex {
-  SideIndex(const Recordset& games, const SideColumns& columns)
-      : id(games.FieldIndex(columns.id)),
-        number(games.FieldIndex(columns.number)),
-        points(games.FieldIndex(columns.points)),
-        forfeit(games.FieldIndex(columns.forfeit)) {
-    for (const QString& name : columns.pitchers) pitchers << games.FieldIndex(name);
-    for (const QString& name : columns.ringers) ringers << games.FieldIndex(name);
-  }
-
-  int id, number, points, forfeit;
-  QList<int> pitchers, ringers;
-};
 
 /// One row of a recordset, read by field place without moving the cursor.
 struct Row {
@@ -34,40 +22,11 @@ struct Row {
   int Whole(int field) const { return static_cast<int>(At(field).ToWhole()); }
 };
 
-GameSide ReadSide(const Row& row, const SideIndex& index) {
-  GameSide side;
-  side.id = row.At(index.id).Trimmed();
-  side.number = row.Whole(index.number);
-  side.points = row.Whole(index.points);
-  side.forfeit = row.At(index.forfeit).ToYesNo();
-  side.pitchers.reserve(index.pitchers.size());
-  side.ringers.reserve(index.ringers.size());
-  for (const int field : index.pitchers)
-    side.pitchers << (field == index.id ? side.id : row.At(field).Trimmed());
-  for (const int field : index.ringers) side.ringers << row.Whole(field);
-  return side;
+QList<int> PlacesOf(const Recordset& rows, const QStringList& names) {
+  QList<int> places;
+  for (const QString& name : names) places << rows.FieldIndex(name);
+  return places;
 }
-
-/// The places of all columns of a game.
-struct GameIndex {
-  GameIndex(const Recordset& games, const PlayFormat& format)
-      : sides{SideIndex(games, format.sides[0]), SideIndex(games, format.sides[1])},
-        number(games.FieldIndex(QStringLiteral("Game"))),
-        court(games.FieldIndex(QStringLiteral("Court"))),
-        shoes(games.FieldIndex(QStringLiteral("Shoes"))),
-        approved(games.FieldIndex(QStringLiteral("Approved"))) {}
-
-  Game Read(const Row& row) const {
-    return {row.Whole(number),
-            row.At(court).ToText(),
-            row.Whole(shoes),
-            row.At(approved).ToYesNo(),
-            {ReadSide(row, sides[0]), ReadSide(row, sides[1])}};
-  }
-
-  std::array<SideIndex, 2> sides;
-  int number, court, shoes, approved;
-};
 
 }  // namespace
 
@@ -88,17 +47,50 @@ QStringList EntrantsIn(const QList<Game>& games) {
   return ids;
 }
 
+GameReader::Side GameReader::SideIn(const Recordset& games, const SideColumns& columns) {
+  return {games.FieldIndex(columns.id),      games.FieldIndex(columns.number),
+          games.FieldIndex(columns.points),  games.FieldIndex(columns.forfeit),
+          PlacesOf(games, columns.pitchers), PlacesOf(games, columns.ringers)};
+}
+
+GameReader::GameReader(const Recordset& games, const PlayFormat& format)
+    : sides_{SideIn(games, format.sides[0]), SideIn(games, format.sides[1])},
+      number_(games.FieldIndex(u"Game"_s)),
+      court_(games.FieldIndex(u"Court"_s)),
+      shoes_(games.FieldIndex(u"Shoes"_s)),
+      approved_(games.FieldIndex(u"Approved"_s)) {}
+
+GameSide GameReader::ReadSide(const Recordset& games, int position, const Side& columns) {
+  const Row row{games, position};
+  GameSide side;
+  side.id = row.At(columns.id).Trimmed();
+  side.number = row.Whole(columns.number);
+  side.points = row.Whole(columns.points);
+  side.forfeit = row.At(columns.forfeit).ToYesNo();
+  side.pitchers.reserve(columns.pitchers.size());
+  side.ringers.reserve(columns.ringers.size());
+  for (const int field : columns.pitchers)
+    side.pitchers << (field == columns.id ? side.id : row.At(field).Trimmed());
+  for (const int field : columns.ringers) side.ringers << row.Whole(field);
+  return side;
+}
+
+Game GameReader::Read(const Recordset& games, int position) const {
+  const Row row{games, position};
+  return {row.Whole(number_),
+          row.At(court_).ToText(),
+          row.Whole(shoes_),
+          row.At(approved_).ToYesNo(),
+          {ReadSide(games, position, sides_[0]), ReadSide(games, position, sides_[1])}};
+}
+
 QList<Game> ReadGames(const Recordset& games, const PlayFormat& format) {
-  const GameIndex index(games, format);
+  const GameReader reader(games, format);
   QList<Game> all;
   all.reserve(games.RecordCount());
   for (int position = 1; position <= games.RecordCount(); ++position)
-    all.append(index.Read({games, position}));
+    all.append(reader.Read(games, position));
   return all;
-}
-
-Game ReadGame(const Recordset& games, int position, const PlayFormat& format) {
-  return GameIndex(games, format).Read({games, position});
 }
 
 Outcome OutcomeOf(const Game& game, int side, const PlayFormat& format) {

@@ -8,6 +8,7 @@
 namespace tavrelin {
 
 struct PlayFormat;
+struct SideColumns;
 class Recordset;
 
 /// One side of a game as the rules read it.
@@ -40,11 +41,30 @@ QStringList EntrantsIn(const QList<Game>& games);
 /// How a game ended for one side.
 enum class Outcome { None, Win, Loss, Tie };
 
+/// Reads games from a recordset by the columns of a format, which are looked up once.
+class GameReader {
+ public:
+  GameReader(const Recordset& games, const PlayFormat& format);
+
+  /// The game at a position of that recordset, from 1, or of one with the same fields. The cursor
+  /// stays where it is.
+  Game Read(const Recordset& games, int position) const;
+
+ private:
+  /// Places of one side's columns; -1 for one that the format lacks.
+  struct Side {
+    int id, number, points, forfeit;
+    QList<int> pitchers, ringers;
+  };
+  static Side SideIn(const Recordset& games, const SideColumns& columns);
+  static GameSide ReadSide(const Recordset& games, int position, const Side& columns);
+
+  std::array<Side, 2> sides_;
+  int number_, court_, shoes_, approved_;
+};
+
 /// All rows of a class's game recordset, in its present order; its cursor stays where it is.
 QList<Game> ReadGames(const Recordset& games, const PlayFormat& format);
-
-/// The row at a position of the game recordset, from 1.
-Game ReadGame(const Recordset& games, int position, const PlayFormat& format);
 
 /// The result of a game for one side (0 or 1), approved or not: a forfeit of one's own loses
 /// whatever else happened, the pacer always loses, then the points decide.

@@ -10,6 +10,9 @@
 #include "play/PlayFormat.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The columns of one new game row and their values.
@@ -96,17 +99,15 @@ class Pairing {
 
   void SetPacer(NewRow& row, const SideColumns& side) const {
     row.Set(side.id, format_.pacerID);
-    for (qsizetype i = 0; i < side.pitchers.size(); ++i) {
-      if (side.pitchers[i] != side.id) row.Set(side.pitchers[i], format_.pacerPitchers[i]);
-    }
+    if (!side.IsTeam()) return;
+    for (qsizetype i = 0; i < side.pitchers.size(); ++i)
+      row.Set(side.pitchers[i], format_.pacerPitchers[i]);
   }
 
   void SetEntrant(NewRow& row, const SideColumns& side, int number) const {
     row.Set(side.id, Listed(number, format_.entrantID));
     for (qsizetype i = 0; i < side.pitchers.size(); ++i) {
-      if (side.pitchers[i] != side.id) {
-        row.Set(side.pitchers[i], Listed(number, format_.pitchers[i].id));
-      }
+      if (side.IsTeam()) row.Set(side.pitchers[i], Listed(number, format_.pitchers[i].id));
       row.Set(side.ringers[i], 0);
     }
     row.Set(side.points, 0);
@@ -127,31 +128,27 @@ class Pairing {
   QStringList courts_;
 };
 
-QString Refusal(const LoadedClass& loaded, const PairingChoice& choice, const Schedule& schedule) {
-  if (!loaded.refusal.isEmpty()) return loaded.refusal;
-  if (loaded.isPaired) return QStringLiteral("Class has already been paired");
+Refusal CheckPairing(const LoadedClass& loaded, const PairingChoice& choice,
+                     const Schedule& schedule) {
+  if (loaded.refusal) return loaded.refusal;
+  if (loaded.isPaired) return {u"Class has already been paired"_s};
   if (loaded.IsOdd() && choice.odd == OddEntrant::NotChosen) {
-    return QStringLiteral("Select Bye or Pacer");
+    return {u"Select Bye or Pacer"_s, u"Bye"_s};
   }
-  if (schedule.IsEmpty()) {
-    return QStringLiteral("Cannot auto create pairings for a class of this size");
-  }
-  if (choice.courts.size() != schedule.Courts()) {
-    return QStringLiteral("The class plays on %1 courts, but %2 were given")
-        .arg(schedule.Courts())
-        .arg(choice.courts.size());
-  }
-  return {};
+  if (schedule.IsEmpty()) return {u"Cannot auto create pairings for a class of this size"_s};
+  if (choice.courts.size() == schedule.Courts()) return {};
+  return {u"The class plays on %1 courts, but %2 were given"_s.arg(schedule.Courts())
+              .arg(choice.courts.size()),
+          u"Courts"_s};
 }
 
 }  // namespace
 
-QString CreatePairing(Connection& connection, const ClassRules& rules,
+Refusal CreatePairing(Connection& connection, const ClassRules& rules,
                       const PairingChoice& choice) {
   const LoadedClass loaded = LoadClass(connection, rules);
   const Schedule schedule = ScheduleFor(loaded.entrants);
-  const QString refusal = Refusal(loaded, choice, schedule);
-  if (!refusal.isEmpty()) return refusal;
+  if (const Refusal refusal = CheckPairing(loaded, choice, schedule)) return refusal;
 
   Pairing pairing(connection, loaded, choice, schedule);
   Batch batch(connection);
@@ -171,14 +168,18 @@ void DeletePairing(Connection& connection, const ClassRules& rules) {
                      {rules.sanctionID, rules.classID});
 }
 
-CourtRemark CheckByeCourts(const QStringList& courts) {
+Refusal CheckByeCourts(const QStringList& courts) {
   for (qsizetype i = 0; i + 1 < courts.size(); ++i) {
-    if (courts[i].trimmed().isEmpty()) return {QStringLiteral("Invalid court"), false};
+    if (courts[i].trimmed().isEmpty()) return {u"Invalid court"_s, u"Courts"_s};
   }
+  return {};
+}
+
+QString ByeCourtAdvice(const QStringList& courts) {
   // Classes of 5 to 10 play by tables that leave the last court to the bye anyway.
   const bool freedAnyway = courts.size() >= 3 && courts.size() <= 5;
   if (courts.isEmpty() || courts.last().trimmed().isEmpty() || freedAnyway) return {};
-  return {QStringLiteral("Blank out last court to optimize court use"), true};
+  return u"Blank out last court to optimize court use"_s;
 }
 
 int RoundsOf(const QString& text) {

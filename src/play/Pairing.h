@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "basic/Refusal.h"
+
 namespace tavrelin {
 
 class Connection;
@@ -18,24 +20,21 @@ struct PairingChoice {
   OddEntrant odd = OddEntrant::NotChosen;  ///< counts only in a class of odd size
 };
 
-/// Stores the games of a class, round after round, as its schedule tells. Returns the reason when
-/// the class cannot be paired, and then nothing is written; empty when the games stand in the file.
-/// One transaction: all the games or, after a failure or a crash, none.
+/// Stores the games of a class, round after round, as its schedule tells. Refused when the class
+/// cannot be paired; then nothing is written. One transaction: all the games or, after a failure or
+/// a crash, none.
 ///
 /// With a bye, a game of the bye is not stored; and when the last court is blank, a game that would
 /// stand there takes the court which the bye leaves free in that game.
-QString CreatePairing(Connection& connection, const ClassRules& rules, const PairingChoice& choice);
+Refusal CreatePairing(Connection& connection, const ClassRules& rules, const PairingChoice& choice);
 
 /// Removes all games of the class; its entries stay.
 void DeletePairing(Connection& connection, const ClassRules& rules);
 
-/// What there is to say about the courts once a bye is chosen; empty when they are as they should
-/// be.
-struct CourtRemark {
-  QString text;
-  bool isAdvice = false;  ///< the choice stands; otherwise a court must be mended
-};
-CourtRemark CheckByeCourts(const QStringList& courts);
+/// The courts once a bye is chosen: every one but the last must have a name.
+Refusal CheckByeCourts(const QStringList& courts);
+/// What would make better use of them; empty when there is nothing to say. The choice stands.
+QString ByeCourtAdvice(const QStringList& courts);
 
 /// The number of rounds that a text asks for: 1 when it cannot be read or is 0.
 int RoundsOf(const QString& text);

@@ -61,9 +61,8 @@ void AddSinglePoints(QList<GridColumn>& columns, const SideColumns& side, const 
 
 // The pitchers of a team stand behind it; they come with the team that is chosen.
 void AddPitchers(QList<GridColumn>& columns, const SideColumns& side) {
-  const bool team = side.pitchers.size() > 1;
   for (qsizetype i = 0; i < side.ringers.size(); ++i) {
-    if (team) {
+    if (side.IsTeam()) {
       columns.append({.caption = i == 0 ? "A" : "B",
                       .field = side.pitchers[i],
                       .width = 760,
@@ -76,9 +75,8 @@ void AddPitchers(QList<GridColumn>& columns, const SideColumns& side) {
 }
 
 void AddSide(QList<GridColumn>& columns, const SideColumns& side, const QString& singlePointsKey) {
-  const QString result = Stem(side) + "WL";
   columns.append({.caption = "wl",
-                  .field = result,
+                  .field = side.result,
                   .width = 400,
                   .selectable = false,
                   .editable = false,
@@ -102,7 +100,7 @@ QList<TwoCaptions> Captions(const PlayFormat& format) {
   for (const SideColumns& side : format.sides) {
     captions.append({side.points, "Pts", "Points"});
     for (const QString& ringers : side.ringers) captions.append({ringers, "Rgrs", "Ringers"});
-    captions.append({Stem(side) + "WL", "wl", "W/L"});
+    captions.append({side.result, "wl", "W/L"});
   }
   captions.append({"Approved", "X", "Approved"});
   return captions;
@@ -112,7 +110,7 @@ QList<TwoCaptions> Captions(const PlayFormat& format) {
 // take the flag from every column.
 bool IsCompact(const QString& key, const PlayFormat& format, bool narrow) {
   if (key == "Approved" || key.endsWith("WL")) return false;
-  const bool secondRingers = format.code == "S" && key == format.sides[1].ringers[0];
+  const bool secondRingers = !format.IsDoubles() && key == format.sides[1].ringers[0];
   return !(narrow && secondRingers);
 }
 
@@ -170,7 +168,7 @@ QList<GridColumn> ScoreColumns(const PlayFormat& format) {
 QList<GridColumn> StandingsColumns(const PlayFormat& format) {
   QList<GridColumn> columns;
   if (format.hasOverride) columns << Standing("Rank", "Rank", 700) << OverrideColumn();
-  const QString name = format.hasOverride ? "Player Name" : "Team";
+  const QString name = format.IsDoubles() ? "Team" : "Player Name";
   columns.append({.caption = name,
                   .field = format.standingsName,
                   .width = 1900,

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
-#include "data/Connection.h"
 #include "tournament/Classes.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Placeholder(int width) {
@@ -20,50 +22,55 @@ QString GamesStatement(const QString& columns, const QString& table) {
 }
 
 SideColumns PlayerSide(const QString& side) {
-  return {side + "ID",      side + "Number", side + "Points",   side + "SinglePoints",
-          side + "Forfeit", {side + "ID"},   {side + "Ringers"}};
+  return {.id = side + "ID",
+          .number = side + "Number",
+          .result = side + "WL",
+          .points = side + "Points",
+          .singlePoints = side + "SinglePoints",
+          .forfeit = side + "Forfeit",
+          .pitchers = {side + "ID"},
+          .ringers = {side + "Ringers"}};
 }
 
 SideColumns TeamSide(const QString& side) {
-  return {side + "ID",
-          {},
-          side + "Points",
-          {},
-          {},
-          {side + "PlayerOneID", side + "PlayerTwoID"},
-          {side + "PlayerOneRingers", side + "PlayerTwoRingers"}};
+  return {.id = side + "ID",
+          .number = {},
+          .result = side + "WL",
+          .points = side + "Points",
+          .singlePoints = {},
+          .forfeit = {},
+          .pitchers = {side + "PlayerOneID", side + "PlayerTwoID"},
+          .ringers = {side + "PlayerOneRingers", side + "PlayerTwoRingers"}};
 }
 
 PitcherColumns Partner(const QString& player) {
   return {player + "ID",        player + "HiGame",   player + "Ringers", player + "Shoes",
-          player + "FirstName", player + "LastName", player + "Name"};
+          player + "FirstName", player + "LastName", player + "Name",    player};
 }
 
-/// The literal 0.0111 only makes the engine give the two computed columns a floating type. The
-/// roster's columns are reserved and filled by one walk over it: a join would walk it once for each
-/// entrant.
-QString SinglesStandings(const QString& tail) {
-  return QStringLiteral(
-             "SELECT %1 AS PlayerName, e.PlayerID, %2 AS State, %2 AS Category, "
-             "e.RingerPercent AS EntryAvg, e.TotalWins AS Won, "
-             "e.TotalLosses AS Loss, e.TotalRingers AS Ringers, e.TotalShoes AS Shoes, "
-             "0.0111 AS RingerPercent, 0.0111 AS OverAverage, 0 AS HeadToHead, "
-             "e.TotalPoints AS Points, %3 AS Card, Seed")
-             .arg(Placeholder(46), Placeholder(2), Placeholder(6)) +
-         tail +
-         QStringLiteral(" FROM TournamentEntrants e WHERE e.SanctionID = ? AND e.ClassID = ?");
+/// One pitcher's columns of the standings. Those of the roster are reserved and filled by one walk
+/// over it: a join would walk it once for each entrant.
+QStringList StandingColumnsOf(const PitcherColumns& pitcher, int nameWidth) {
+  QStringList columns = {u"e."_s + pitcher.id,
+                         Placeholder(nameWidth) + u" AS "_s + pitcher.fullName,
+                         u"e."_s + pitcher.hiGame};
+  for (const QString& share : {pitcher.ringers, pitcher.shoes})
+    if (!share.isEmpty()) columns << u"e."_s + share;
+  for (const RosterField& field : RosterFields())
+    columns << Placeholder(field.width) + u" AS "_s + pitcher.prefix + field.name;
+  return columns;
 }
 
-QString DoublesStandings(const QString& floating) {
-  return QStringLiteral(
-             "SELECT e.PlayerOneID, e.PlayerOneRingers, %1 AS PlayerOneName, e.PlayerTwoID, "
-             "e.PlayerTwoRingers, %1 AS PlayerTwoName, e.TeamID, t.Team, "
-             "e.RingerPercent AS EntryAvg, e.TotalWins AS Won, e.TotalLosses AS Loss, "
-             "e.TotalRingers AS Ringers, e.TotalShoes AS Shoes, e.TotalPoints AS Points, Seed, "
-             "%2 AS RingerPercent, %2 AS OverAverage, 0 AS HeadToHead "
-             "FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? AND e.ClassID = ? AND "
-             "t.TeamID = e.TeamID")
-      .arg(Placeholder(45), floating);
+/// The literal 0.0111 only makes the engine give the two computed columns a floating type.
+QString StandingsStatement(const PlayFormat& format, int nameWidth, const QString& own,
+                           const QString& from) {
+  QStringList pitchers;
+  for (const PitcherColumns& pitcher : format.pitchers)
+    pitchers << StandingColumnsOf(pitcher, nameWidth);
+  return u"SELECT %1, %2, e.RingerPercent AS EntryAvg, e.TotalWins AS Won, e.TotalLosses AS Loss, "
+         "e.TotalRingers AS Ringers, e.TotalShoes AS Shoes, 0.0111 AS RingerPercent, "
+         "0.0111 AS OverAverage, e.HeadToHead, e.TotalPoints AS Points, e.Seed, 0 AS Rank "
+         "FROM %3 WHERE e.SanctionID = ? AND e.ClassID = ?"_s.arg(own, pitchers.join(u", "), from);
 }
 
 void NameSinglesStatements(PlayFormat& f) {
@@ -77,8 +84,8 @@ void NameSinglesStatements(PlayFormat& f) {
   f.entrantsStatement = QStringLiteral(
       "SELECT e.PlayerID, e.Seed, e.RingerPercent, e.TotalWins, e.TotalLosses, 0 AS PlayerNumber "
       "FROM TournamentEntrants e WHERE e.SanctionID = ? AND e.ClassID = ?");
-  f.standingsStatement = SinglesStandings(QStringLiteral(", 0 AS Rank, RankOverride AS Override"));
-  f.reportStatement = SinglesStandings({});
+  f.standingsStatement =
+      StandingsStatement(f, 46, u"e.RankOverride AS Override"_s, u"TournamentEntrants e"_s);
 }
 
 void NameDoublesStatements(PlayFormat& f) {
@@ -98,41 +105,44 @@ void NameDoublesStatements(PlayFormat& f) {
           "FROM TournamentTeamEntrants e, Teams t WHERE e.SanctionID = ? AND e.ClassID = ? AND "
           "e.TeamID = t.TeamID")
           .arg(Placeholder(20), Placeholder(25));
-  f.standingsStatement = DoublesStandings(QStringLiteral("0.01"));
-  f.reportStatement = DoublesStandings(QStringLiteral("0.0111"));
+  f.standingsStatement =
+      StandingsStatement(f, 45, u"e.TeamID, t.Team"_s,
+                         u"TournamentTeamEntrants e INNER JOIN Teams t ON t.TeamID = e.TeamID"_s);
 }
 
 PlayFormat MakeSingles() {
   PlayFormat f;
-  f.code = QStringLiteral("S");
+  f.code = u"S"_s;
+  f.entrant = u"player"_s;
   f.gameTable = QStringLiteral("TournamentSinglesRR");
   f.entrantTable = QStringLiteral("TournamentEntrants");
   f.entrantID = QStringLiteral("PlayerID");
   f.sides = {PlayerSide(QStringLiteral("PlayerOne")), PlayerSide(QStringLiteral("PlayerTwo"))};
-  f.pitchers = {{"PlayerID", "HiGame", {}, {}, "FirstName", "LastName", "PlayerName"}};
+  f.pitchers = {{"PlayerID", "HiGame", {}, {}, "FirstName", "LastName", "PlayerName", {}}};
   f.pacerID = "PPPPPP";
   f.pacerPitchers = {QStringLiteral("PPPPPP")};
+  f.checksScores = true;
+  f.hasForfeits = true;
   f.forgivesTypingSlips = true;
+  f.listsRosterOnly = true;
   NameSinglesStatements(f);
   f.listFields = {{"PlayerID", FieldType::Text, 6},    {"FirstName", FieldType::Text, 20},
                   {"LastName", FieldType::Text, 25},   {"RingerPercent", FieldType::Single},
                   {"State", FieldType::Text, 6},       {"TotalWins", FieldType::Text, 4},
                   {"TotalLosses", FieldType::Text, 4}, {"PlayerNumber", FieldType::Long}};
   f.pacerRow = {{"PlayerID", f.pacerID}, {"FirstName", "PACER"}, {"LastName", " "}};
-  f.rosterFields = {{"State", "State"}, {"Category", "Category"}, {"Card", "CardNumber"}};
   f.hasOverride = true;
   f.hasTwoUpCards = true;
   f.standingsName = QStringLiteral("PlayerName");
   f.standingsRingers = {QStringLiteral("Ringers")};
-  f.ringerOrder = {"Won DESC, Loss ASC, RingerPercent DESC, HeadToHead DESC, OverAverage DESC",
-                   "(Rank: W/L - Rgr% - H2H - OvrAvg)"};
   f.entrantNames = FullNames;
   return f;
 }
 
 PlayFormat MakeDoubles() {
   PlayFormat f;
-  f.code = QStringLiteral("D");
+  f.code = u"D"_s;
+  f.entrant = u"team"_s;
   f.gameTable = QStringLiteral("TournamentDoublesRR");
   f.entrantTable = QStringLiteral("TournamentTeamEntrants");
   f.entrantID = QStringLiteral("TeamID");
@@ -163,13 +173,19 @@ PlayFormat MakeDoubles() {
   f.pacerOnCards = QStringLiteral("PACER");
   f.standingsName = QStringLiteral("Team");
   f.standingsRingers = {QStringLiteral("PlayerOneRingers"), QStringLiteral("PlayerTwoRingers")};
-  f.ringerOrder = {"Won DESC, Loss ASC, RingerPercent DESC, HeadToHead DESC, Points DESC",
-                   "(Rank: W/L - Rgr% - H2H - Pts)"};
   f.entrantNames = TeamNames;
   return f;
 }
 
 }  // namespace
+
+const QList<RosterField>& RosterFields() {
+  static const QList<RosterField> fields = {
+      {u"City"_s, u"City"_s, 30},        {u"State"_s, u"State"_s, 2},
+      {u"Category"_s, u"Category"_s, 2}, {u"Card"_s, u"CardNumber"_s, 6},
+      {u"CardYear"_s, u"CardYear"_s, 4}, {u"Telephone"_s, u"Telephone"_s, 10}};
+  return fields;
+}
 
 const PlayFormat& SinglesFormat() {
   static const PlayFormat format = MakeSingles();

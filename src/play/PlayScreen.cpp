@@ -136,14 +136,10 @@ void PlayScreen::StoreChoices() {
   Store& store = around().store;
   store.Save(stored::RecentTournament, cboTournaments_->currentText().trimmed());
   store.Save(stored::TournamentPath, Frame4_->Path().trimmed());
-  if (!IsSingles()) return;
+  if (format_.IsDoubles()) return;
   store.Save(stored::ScoreCheck, chkChecker_->isChecked() ? "1" : "0");
   store.Save(stored::Forfeit, chkForfeit_->isChecked() ? "1" : "0");
   store.Save(stored::BriefReport, Frame3_->IsBrief() ? "1" : "0");
-}
-
-bool PlayScreen::IsSingles() const {
-  return format_.pitchers.size() == 1;
 }
 
 // Choosing a class
@@ -187,8 +183,8 @@ bool PlayScreen::ReadClass(const QString& classID) {
   const std::optional<ClassRules> rules = FindClass(data_->connection, sanctionID_, classID);
   if (!rules) return false;
   data_->loaded = LoadClass(data_->connection, *rules);
-  if (data_->loaded.refusal.isEmpty()) return true;
-  Refuse(data_->loaded.refusal);
+  if (!data_->loaded.refusal) return true;
+  Refuse(data_->loaded.refusal.sentence);
   return false;
 }
 
@@ -220,6 +216,7 @@ void PlayScreen::ShowPaired() {
   Frame2_->Open(data_->loaded.highestGame);
   Frame3_->setEnabled(true);
   Frame4_->setEnabled(true);
+  data_->reader.emplace(data_->loaded.games, format_);
   GridEX1_->SetRecordset(&data_->loaded.games);
   GridEX1_->AddSortKey("Game");
   GridEX1_->AddSortKey("Court");
@@ -245,7 +242,7 @@ void PlayScreen::NameEntrants() {
   const EntrantLists lists = NamesForScores(data_->connection, data_->loaded);
   for (const SideColumns& side : format_.sides) {
     GridEX1_->SetValueList(side.id, lists.entrants);
-    if (side.pitchers.size() < 2) continue;
+    if (!side.IsTeam()) continue;
     for (const QString& pitcher : side.pitchers) GridEX1_->SetValueList(pitcher, lists.pitchers);
   }
   QStringList names;
@@ -257,10 +254,12 @@ void PlayScreen::NameEntrants() {
 // Pairing
 
 void PlayScreen::optBye_Click() {
-  const CourtRemark remark = CheckByeCourts(courts_->Courts());
-  if (remark.text.isEmpty()) return;
-  Refuse(remark.text);
-  if (!remark.isAdvice) courts_->TakeFocus();
+  if (const Refusal refusal = CheckByeCourts(courts_->Courts())) {
+    Refuse(refusal.sentence);
+    return courts_->TakeFocus();
+  }
+  const QString advice = ByeCourtAdvice(courts_->Courts());
+  if (!advice.isEmpty()) Refuse(advice);
 }
 
 void PlayScreen::cmdCreatePair_Click() {
@@ -269,10 +268,10 @@ void PlayScreen::cmdCreatePair_Click() {
   choice.rounds = RoundsOf(cboRounds_->currentText());
   if (optBye_->isChecked()) choice.odd = OddEntrant::Bye;
   if (optPacer_->isChecked()) choice.odd = OddEntrant::Pacer;
-  const QString refusal = CreatePairing(data_->connection, data_->loaded.rules, choice);
-  if (refusal.isEmpty()) return cboLoad_Click();
-  Refuse(refusal);
-  if (optBye_->isEnabled() && choice.odd == OddEntrant::NotChosen) optBye_->setFocus();
+  const Refusal refusal = CreatePairing(data_->connection, data_->loaded.rules, choice);
+  if (!refusal) return cboLoad_Click();
+  Refuse(refusal.sentence);
+  if (refusal.about == "Bye") optBye_->setFocus();
 }
 
 void PlayScreen::cmdDeletePair_Click() {
@@ -336,9 +335,9 @@ void PlayScreen::GridEX1_BeforeUpdate(GridUpdate& event) {
 }
 
 void PlayScreen::GridEX1_FetchIcon(GridFetchIcon& event) {
-  if (event.row < 1) return;
-  const Game game = ReadGame(data_->loaded.games, event.row, format_);
-  const int side = format_.sides[0].id.chopped(2) + "WL" == event.column ? 0 : 1;
+  if (event.position < 1) return;
+  const Game game = data_->reader->Read(data_->loaded.games, event.position);
+  const int side = format_.sides[0].result == event.column ? 0 : 1;
   event.icon = 1 + static_cast<int>(GameIcon(game, side, format_));
 }
 
@@ -354,8 +353,7 @@ void PlayScreen::ShowStandings() {
   GridEX2_->SetRecordset(nullptr);
   if (data_->loaded.rules.classID.isEmpty()) return;
   data_->standings = RankTheClass(data_->connection, data_->loaded.rules);
-  if (!data_->standings.refusal.isEmpty()) return Refuse(data_->standings.refusal);
-  NumberPlaces(data_->standings.rows, data_->standings.rules.rankOverride);
+  if (data_->standings.refusal) return Refuse(data_->standings.refusal.sentence);
   GridEX2_->SetRecordset(&data_->standings.rows);
   ShowOverride();
 }
@@ -372,7 +370,7 @@ void PlayScreen::ShowOverride() {
 void PlayScreen::cmdOverride_Click() {
   if (!GridEX2_->CommitRow()) return;
   Standings& standings = data_->standings;
-  QString refusal;
+  Refusal refusal;
   if (standings.rules.rankOverride) {
     RemoveOverride(data_->connection, standings.rules, standings.rows);
   } else {
@@ -380,7 +378,7 @@ void PlayScreen::cmdOverride_Click() {
   }
   data_->loaded.rules.rankOverride = standings.rules.rankOverride;
   GridEX2_->Rebind();
-  if (!refusal.isEmpty()) return Refuse(refusal);
+  if (refusal) return Refuse(refusal.sentence);
   ShowOverride();
 }
 

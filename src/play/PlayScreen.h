@@ -93,7 +93,6 @@ class PlayScreen : public Screen {
   void RestoreChoices();
   void StoreChoices();
 
-  bool IsSingles() const;
   /// What the club set for its cards and sheets.
   void ReadPaperSettings();
   /// The way that all buttons for results have in common: checks, then the ranking as the director

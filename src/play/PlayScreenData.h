@@ -15,6 +15,7 @@ struct PlayScreen::Data {
   CardSettings cardSettings;
   int verticalOffset = 0;  ///< twips by which the sheet of results is moved down
   LoadedClass loaded;
+  std::optional<GameReader> reader;  ///< of its games, while they are on show
   Standings standings;
 };
 

@@ -36,7 +36,6 @@ QComboBox* NewCombo(const QString& name, const QString& spoken, int characters, 
 }  // namespace
 
 void PlayScreen::BuildControls() {
-  const bool doubles = format_.pitchers.size() > 1;
   cboTournaments_ = new TournamentBox(this);
   cboClasses_ = NewCombo("cboClasses", "Class", 18, this);
   cmdLoad_ = NewControl<QPushButton>("cmdLoad", "Load", this);
@@ -53,7 +52,8 @@ void PlayScreen::BuildControls() {
   SSTab1_ = new QTabWidget(this);
   SSTab1_->setObjectName("SSTab1");
   GridEX1_ = new GridEX("GridEX1", "Games", Guard(), this);
-  GridEX2_ = new GridEX("GridEX2", doubles ? "Standings of the teams" : "Standings", Guard(), this);
+  GridEX2_ = new GridEX("GridEX2", format_.IsDoubles() ? "Standings of the teams" : "Standings",
+                        Guard(), this);
   chkChecker_ = NewControl<QCheckBox>("chkChecker", "Score Checker", this);
   chkForfeit_ = NewControl<QCheckBox>("chkForfeit", "Forfeits Visible", this);
   cmdView_ = NewControl<QPushButton>("cmdView", "View", this);
@@ -75,8 +75,8 @@ void PlayScreen::LayOut() {
   column->addWidget(stsInfo());
   SSTab1_->addTab(ScoresPage(), "Scores");
   SSTab1_->addTab(ResultsPage(), "Results");
-  chkChecker_->setVisible(!format_.sides[0].singlePoints.isEmpty());
-  chkForfeit_->setVisible(!format_.sides[0].forfeit.isEmpty());
+  chkChecker_->setVisible(format_.checksScores);
+  chkForfeit_->setVisible(format_.hasForfeits);
 }
 
 // Two rows: which class, and how it is paired.
@@ -136,8 +136,8 @@ QWidget* PlayScreen::OutputFrames() {
   row->addWidget(Frame2_, 4);
   row->addWidget(Frame4_, 4);
   row->addWidget(chkExport_);
-  chkExport_->setVisible(!IsSingles());
-  if (!IsSingles()) chkExport_Click();
+  chkExport_->setVisible(format_.IsDoubles());
+  if (format_.IsDoubles()) chkExport_Click();
   return band;
 }
 

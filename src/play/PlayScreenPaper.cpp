@@ -42,9 +42,9 @@ void PlayScreen::cmdPrintPair_Click() {
   stsInfo()->ClearMessage();
   const CardJob job =
       MakeCardJob(data_->connection, data_->loaded, data_->cardSettings, Frame2_->Choice());
-  if (!job.refusal.isEmpty()) {
-    Refuse(job.refusal);
-    if (!job.range.refusal.isEmpty()) Frame2_->FocusTo();
+  if (job.refusal) {
+    Refuse(job.refusal.sentence);
+    if (job.refusal.about == "To") Frame2_->FocusTo();
     return;
   }
   if (!job.question.isEmpty() && !around().person.Confirm(job.title, job.question)) return;
@@ -83,8 +83,8 @@ void PlayScreen::cmdExport_Click() {
   if (!results) return;
   Frame4_->SetPath(ResultsFolder(Frame4_->Path(), results->doubles));
   const QString text = ExportTheClass(*results, Frame3_->Choice());
-  const QString refusal = WriteResults(Frame4_->Path(), Frame4_->File(), text);
-  if (!refusal.isEmpty()) return Refuse(refusal);
+  const Refusal refusal = WriteResults(Frame4_->Path(), Frame4_->File(), text);
+  if (refusal) return Refuse(refusal.sentence);
   around().person.Beep();
   Say("File has been created");
   ReturnToGames();
@@ -104,14 +104,14 @@ std::optional<ClassResults> PlayScreen::RankForOutput() {
     return {};
   }
   if (!GridEX1_->CommitRow()) return {};
-  if (IsSingles() && data_->loaded.games.RecordCount() == 0) {
+  if (!format_.IsDoubles() && data_->loaded.games.RecordCount() == 0) {
     Refuse("Round robin has not been created");
     return {};
   }
   Standings standings =
-      RankTheClass(data_->connection, data_->loaded.rules, {.honourOverride = true});
-  if (standings.refusal.isEmpty()) return ReadResults(data_->connection, standings);
-  Refuse(standings.refusal);
+      RankTheClass(data_->connection, data_->loaded.rules, StandingOrder::Directed);
+  if (!standings.refusal) return ReadResults(data_->connection, standings);
+  Refuse(standings.refusal.sentence);
   return {};
 }
 
@@ -127,7 +127,7 @@ std::optional<ClassResults> PlayScreen::ResultsForPaper() {
 }
 
 bool PlayScreen::SheetWouldHaveGaps() const {
-  return IsSingles() && data_->cardSettings.confirms &&
+  return !format_.IsDoubles() && data_->cardSettings.confirms &&
          ResultsMissing(ReadGames(data_->loaded.games, format_));
 }
 

@@ -24,7 +24,7 @@ void MarkClass(Connection& connection, ClassRules& rules, bool overridden) {
 
 }  // namespace
 
-QString ApplyOverride(Connection& connection, ClassRules& rules, Recordset& standings) {
+Refusal ApplyOverride(Connection& connection, ClassRules& rules, Recordset& standings) {
   Batch batch(connection);
   standings.SetSort(QStringLiteral("Override ASC"));
   qint64 before = 0;  // as yet no place: equal to a place left out
@@ -32,7 +32,7 @@ QString ApplyOverride(Connection& connection, ClassRules& rules, Recordset& stan
     const qint64 place = standings[QStringLiteral("Override")].ToWhole();
     if (place == before) {
       batch.Commit();
-      return QStringLiteral("Duplicate Ranking: #%1 is not allowed").arg(place);
+      return {QStringLiteral("Duplicate Ranking: #%1 is not allowed").arg(place)};
     }
     before = place;
     StorePlace(connection, rules, standings, place);

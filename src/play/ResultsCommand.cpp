@@ -45,36 +45,30 @@ ResultsOptions ReadOptions(const QStringList& arguments) {
   return options;
 }
 
-int WriteText(const QString& file, const QString& text, QTextStream& out, QTextStream& err) {
+int WriteText(const QString& file, const QString& text, QTextStream& out) {
   if (file == u"-") {
     out << text;
     return exits::Done;
   }
   const qsizetype name = file.lastIndexOf(u'/') + 1;
-  const QString refusal = WriteResults(file.left(name), file.mid(name), text);
-  if (refusal.isEmpty()) return exits::Done;
-  err << refusal << '\n';
-  return exits::Refused;
+  if (const Refusal refusal = WriteResults(file.left(name), file.mid(name), text)) Refuse(refusal);
+  return exits::Done;
 }
 
-int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+int WriteResultsOf(const QStringList& arguments, QTextStream& out, QTextStream&) {
   const ResultsOptions options = ReadOptions(arguments.sliced(3));
   if (!options.choice.standings && !options.choice.boxScores) {
-    err << "Check either Standings or Box Scores or both\n";
-    return exits::Refused;
+    Refuse({"Check either Standings or Box Scores or both"});
   }
   Connection connection;
   connection.OpenSnapshot(FileConnectString(arguments[0]));
   Standings standings =
-      RankTheClass(connection, NamedClass(connection, arguments), {.honourOverride = true});
-  if (!standings.refusal.isEmpty()) {
-    err << standings.refusal << '\n';
-    return exits::Refused;
-  }
+      RankTheClass(connection, NamedClass(connection, arguments), StandingOrder::Directed);
+  if (standings.refusal) Refuse(standings.refusal);
   const ClassResults results = ReadResults(connection, standings);
   if (!options.pdfFile) {
     const QString text = ExportTheClass(results, options.choice);
-    return WriteText(options.textFile.value_or(QStringLiteral("-")), text, out, err);
+    return WriteText(options.textFile.value_or(QStringLiteral("-")), text, out);
   }
   const int offset = SystemSettings(connection).Twips(Setting::ResultsVertical);
   const QString title = results.tournament + QStringLiteral(" - ") + results.className;

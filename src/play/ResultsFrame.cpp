@@ -30,7 +30,7 @@ QHBoxLayout* NewRow(const QWidgetList& parts, int spacing) {
 ResultsFrame::ResultsFrame(const PlayFormat& format, QWidget* parent)
     : QGroupBox("Class Results", parent) {
   setObjectName("Frame3");
-  BuildControls(format.pitchers.size() == 1);
+  BuildControls(!format.IsDoubles());
   LayOut();
   connect(cmdPrintResults_, &QPushButton::clicked, this, &ResultsFrame::PrintWanted);
   connect(cmdPreviewResults_, &QPushButton::clicked, this, &ResultsFrame::PreviewWanted);

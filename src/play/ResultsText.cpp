@@ -141,11 +141,11 @@ QString HintAt(const QString& file) {
 
 }  // namespace
 
-QString WriteResults(const QString& path, const QString& file, const QString& text) {
+Refusal WriteResults(const QString& path, const QString& file, const QString& text) {
   try {
     WriteTextFile(path.trimmed() + file.trimmed(), text);
   } catch (const Error& error) {
-    return QStringLiteral("Unable to open file. ") + error.description() + HintAt(file);
+    return {QStringLiteral("Unable to open file. ") + error.description() + HintAt(file)};
   }
   return {};
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "basic/Refusal.h"
+
 namespace tavrelin {
 
 struct ClassResults;
@@ -13,9 +15,9 @@ struct ResultsChoice;
 QString ExportTheClass(const ClassResults& results, const ResultsChoice& choice);
 
 /// Writes the text to the file `file` in the folder `path`, both as the boxes hold them, over what
-/// stands there. Returns "Unable to open file. " and the reason when that fails, with a hint when
-/// the name holds a "/", nothing being written then; empty when the file stands.
-QString WriteResults(const QString& path, const QString& file, const QString& text);
+/// stands there. Refused with "Unable to open file. " and the reason when that fails, and a hint
+/// when the name holds a "/"; nothing is written then.
+Refusal WriteResults(const QString& path, const QString& file, const QString& text);
 
 /// A singles class's export folder with the "\" it needs at its end; doubles leaves it as typed.
 QString ResultsFolder(const QString& path, bool doubles);

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "basic/Figures.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "play/ClassLoad.h"
-#include "play/Figures.h"
 #include "play/PlayFormat.h"
 
 namespace tavrelin {

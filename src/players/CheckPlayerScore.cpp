@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "basic/Conversions.h"
+#include "basic/Figures.h"
 #include "data/Recordset.h"
 
 namespace tavrelin {
@@ -38,7 +39,7 @@ bool IsDuplicate(const RowValues& row, Recordset& scores) {
 
 Value RingerPercent(const Value& ringers, const Value& shoes) {
   if (!IsNumeric(ringers) || !IsNumeric(shoes) || CDbl(shoes) == 0) return {};
-  return CDbl(ringers) / CDbl(shoes) * 100;
+  return RingerPercentage(CDbl(ringers), CDbl(shoes));
 }
 
 RowCheck CheckPlayerScore(const RowValues& row, bool newRow, Recordset& scores) {

@@ -1,6 +1,5 @@
 #include "players/Commands.h"
 
-#include "basic/Error.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
 #include "players/EntryAverage.h"
@@ -16,8 +15,7 @@ int Average(const QStringList& arguments, QTextStream& out, QTextStream&) {
   player.Open("SELECT PlayerID, LastName, FirstName, Category FROM Players WHERE PlayerID = ?",
               connection, Recordset::Lock::ReadOnly, {arguments[1]});
   if (player.AtEnd()) {
-    throw Error(errors::RecordState,
-                QStringLiteral("There is no player with the number %1.").arg(arguments[1]));
+    Refuse({QStringLiteral("There is no player with the number %1.").arg(arguments[1])});
   }
   const double average = EntryAverage(connection, player["PlayerID"].ToText(),
                                       player["Category"].ToText(), QDate::currentDate());

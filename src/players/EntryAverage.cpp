@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "basic/Conversions.h"
+#include "basic/Figures.h"
 #include "data/Connection.h"
 #include "data/Recordset.h"
 
@@ -13,10 +13,6 @@ namespace {
 constexpr int DaysThatCount = 365;
 constexpr size_t LatestThatCount = 10;
 constexpr size_t BestThatCount = 3;
-
-double Percent(double ringers, double shoes) {
-  return shoes == 0 ? 0 : ringers / shoes * 100;
-}
 
 /// The first rows by an order, the others dropped; ties keep the order they came in.
 template <class Before>
@@ -47,7 +43,7 @@ double AverageOfHistory(std::vector<HistoryRow> history) {
   KeepFirst(history, LatestThatCount,
             [](const HistoryRow& a, const HistoryRow& b) { return a.date > b.date; });
   KeepFirst(history, BestThatCount, [](const HistoryRow& a, const HistoryRow& b) {
-    return Percent(a.ringers, a.shoes) > Percent(b.ringers, b.shoes);
+    return RingerPercentage(a.ringers, a.shoes) > RingerPercentage(b.ringers, b.shoes);
   });
   double shoes = 0;
   double ringers = 0;
@@ -55,7 +51,7 @@ double AverageOfHistory(std::vector<HistoryRow> history) {
     shoes += row.shoes;
     ringers += row.ringers;
   }
-  return Percent(ringers, shoes);
+  return RingerPercentage(ringers, shoes);
 }
 
 double EntryAverage(Connection& connection, const QString& playerID, const QString& category,

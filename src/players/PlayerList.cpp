@@ -23,9 +23,9 @@ RowCheck CheckTeam(const RowValues& row) {
   return check;
 }
 
-QString AddToPlayerList(Recordset& members, const QString& listField, const Value& list,
+Refusal AddToPlayerList(Recordset& members, const QString& listField, const Value& list,
                         const Value& playerID) {
-  if (IsOnList(members, playerID)) return "Player already in list";
+  if (IsOnList(members, playerID)) return {"Player already in list"};
   try {
     members.AddNew();
     members.Set(listField, list);

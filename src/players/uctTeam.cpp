@@ -220,9 +220,9 @@ void uctTeam::PlayerSelected() {
   stsInfo()->ClearMessage();
   if (GridEX2_->Row() < 1) return;
   if (data_->teamID.IsNull()) return Refuse("Choose a team first: press Enter on it.");
-  const QString refusal =
+  const Refusal refusal =
       AddToPlayerList(data_->members, "TeamID", data_->teamID, GridEX2_->Value("PlayerID"));
-  if (!refusal.isEmpty()) return Refuse(refusal);
+  if (refusal) return Refuse(refusal.sentence);
   const auto added = data_->members.CurrentBookmark();
   GridEX3_->Rebind();
   GridEX3_->MoveToBookmark(added);

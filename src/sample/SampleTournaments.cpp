@@ -110,8 +110,8 @@ void ScoreGame(Work& work, Recordset& games, const PlayFormat& format) {
 
 void PlayClass(Work& work, const SampleClass& plan, const ClassRules& rules) {
   const PairingChoice choice{LoadClass(work.connection, rules).courts, 1, plan.odd};
-  const QString refusal = CreatePairing(work.connection, rules, choice);
-  if (!refusal.isEmpty()) throw Error(errors::RecordState, refusal);
+  const Refusal refusal = CreatePairing(work.connection, rules, choice);
+  if (refusal) throw Error(errors::RecordState, refusal.sentence);
   LoadedClass loaded = LoadClass(work.connection, rules);
   const int games = loaded.games.RecordCount();
   int left = plan.scores == SampleClass::Scores::Half ? games / 2 : games;

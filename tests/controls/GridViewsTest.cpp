@@ -190,6 +190,26 @@ TEST_F(GridViewsTest, IconsComeFromTheScreenAndHaveAWord) {
   bench.Shot("grid-icons");
 }
 
+// Texts sorted by the numbers in them take another order than the recordset has.
+TEST_F(GridViewsTest, AnIconIsAskedForByThePositionOfItsRowInTheRecordset) {
+  QList<GridColumn> columns = PlayerColumns();
+  columns.append({.caption = "W/L", .field = "WL", .editable = false, .icon = true});
+  grid.SetIcons({{{}, ""}, {Letter("W"), "Win"}, {Letter("L"), "Loss"}});
+  grid.on.FetchIcon = [&](GridFetchIcon& event) {
+    if (event.position == 0) return;
+    const bool snow = bench.rows.CellAt(event.position, 2) == Value("Snow");
+    event.icon = snow ? 2 : 3;
+  };
+  grid.SetColumns(columns);
+  grid.SetRecordset(&bench.rows);
+  grid.AddSortKey("CardNumber");
+  QStringList words;
+  for (int line = 0; line <= 5; ++line)
+    words << table.model()->index(line, 9).data(Qt::AccessibleTextRole).toString();
+  EXPECT_EQ(bench.Column("LastName"), "Smith Snow Clark Adams Baker");
+  EXPECT_EQ(words, QStringList({"", "Loss", "Win", "Loss", "Loss", "Loss"}));
+}
+
 TEST_F(GridViewsTest, AnEmptyGridSaysWhatToDoNext) {
   bench.rows.SetFilter("LastName = 'Nobody'");
   grid.Rebind();

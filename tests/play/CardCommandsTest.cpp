@@ -19,8 +19,7 @@ class CardCommandsTest : public ClassBench {
  protected:
   void Pair(OddEntrant odd = OddEntrant::NotChosen) {
     const ClassRules rules = Rules();
-    ASSERT_EQ(CreatePairing(connection_, rules, {LoadClass(connection_, rules).courts, 1, odd}),
-              "");
+    ASSERT_FALSE(CreatePairing(connection_, rules, {LoadClass(connection_, rules).courts, 1, odd}));
   }
 
   void Set(int setting, const QString& value) {

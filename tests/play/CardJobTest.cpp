@@ -47,7 +47,7 @@ class CardJobTest : public ClassBench {
   void Pair(OddEntrant odd = OddEntrant::NotChosen, int rounds = 1) {
     const ClassRules rules = Rules();
     const QStringList courts = LoadClass(connection_, rules).courts;
-    ASSERT_EQ(CreatePairing(connection_, rules, {courts, rounds, odd}), "");
+    ASSERT_EQ(CreatePairing(connection_, rules, {courts, rounds, odd}).sentence, "");
   }
 
   CardJob Make(const CardSettings& settings = {}, const CardChoice& choice = {}) {
@@ -91,7 +91,7 @@ TEST_F(CardJobTest, TwelveEntrantsAndBlankFieldsPrintGames1To11) {
   MakeSingles(12);
   Pair();
   const CardJob job = Make();
-  ASSERT_EQ(job.refusal, "");
+  ASSERT_EQ(job.refusal.sentence, "");
   EXPECT_EQ(GamesOf(job.cards[0]), (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
 }
 
@@ -102,8 +102,8 @@ TEST_F(CardJobTest, ThirteenEntrantsAndBlankFieldsFailTheElevenGameTest) {
     CardChoice choice;
     choice.face = face;
     const CardJob job = Make({}, choice);
-    EXPECT_EQ(job.refusal, "Cannot print more than 11 games on card");
-    EXPECT_FALSE(job.range.refusal.isEmpty());
+    EXPECT_EQ(job.refusal.sentence, "Cannot print more than 11 games on card");
+    EXPECT_EQ(job.refusal.about, "To");
     EXPECT_FALSE(job.Prints());
     EXPECT_EQ(job.nextFace, face);
   }
@@ -114,8 +114,8 @@ TEST_F(CardJobTest, ThirteenEntrantsAndBlankFieldsFailTheElevenGameTest) {
 TEST_F(CardJobTest, GamesThreeToThirteenPassAndThreeToFourteenFail) {
   MakeSingles(4);
   Pair(OddEntrant::NotChosen, 4);
-  EXPECT_EQ(Make({}, Games("3", "13")).refusal, "");
-  EXPECT_EQ(Make({}, Games("3", "14")).refusal, "Cannot print more than 11 games on card");
+  EXPECT_EQ(Make({}, Games("3", "13")).refusal.sentence, "");
+  EXPECT_EQ(Make({}, Games("3", "14")).refusal.sentence, "Cannot print more than 11 games on card");
 }
 
 TEST_F(CardJobTest, FourRoundsOfTwentyCanBePrintedElevenGamesAtATime) {
@@ -168,7 +168,7 @@ TEST_F(CardJobTest, NoFaceSelectedPrintsNothing) {
   CardChoice choice;
   choice.face = CardFace::None;
   const CardJob job = Make({}, choice);
-  EXPECT_EQ(job.refusal, "");
+  EXPECT_EQ(job.refusal.sentence, "");
   EXPECT_FALSE(job.Prints());
   EXPECT_TRUE(Make(Style(CardStyle::Folded), choice).Prints());
 }
@@ -246,12 +246,12 @@ TEST_F(CardJobTest, TheWorksheetHasAllGamesOrARefusal) {
   MakeSingles(4);
   CardChoice choice;
   choice.worksheet = true;
-  EXPECT_EQ(Make({}, choice).refusal, "No players to report");
+  EXPECT_EQ(Make({}, choice).refusal.sentence, "No players to report");
   EXPECT_FALSE(Make({}, choice).Prints());
   Pair(OddEntrant::NotChosen, 4);
   const CardJob job = Make({}, choice);
   EXPECT_EQ(job.name, "Round Robin Worksheet");
-  EXPECT_EQ(job.refusal, "");
+  EXPECT_EQ(job.refusal.sentence, "");
   EXPECT_EQ(job.lines.size(), 24);
   EXPECT_TRUE(job.cards.isEmpty());
 }

@@ -23,12 +23,12 @@ TEST(CardGames, TheRangeFollowsTheBoxesAndTheClass) {
     const GameRange range = CardGames(c.from, c.to, c.entrants, CardLimit::ElevenGames);
     EXPECT_EQ(range.from, c.first) << c.from << " thru " << c.to;
     EXPECT_EQ(range.to, c.last) << c.from << " thru " << c.to;
-    EXPECT_EQ(range.refusal.toStdString(), c.refusal) << c.from << " thru " << c.to;
+    EXPECT_EQ(range.refusal.sentence.toStdString(), c.refusal) << c.from << " thru " << c.to;
   }
 }
 
 TEST(CardGames, TwoCardsOnASheetHaveNoLimit) {
-  EXPECT_EQ(CardGames("", "", 20, CardLimit::None).refusal, "");
+  EXPECT_EQ(CardGames("", "", 20, CardLimit::None).refusal.sentence, "");
   EXPECT_EQ(CardGames("", "", 20, CardLimit::None).to, 19);
 }
 
@@ -37,7 +37,7 @@ class CardsTest : public ClassBench {
   void Pair(OddEntrant odd) {
     const ClassRules rules = Rules();
     const QStringList courts = LoadClass(connection_, rules).courts;
-    ASSERT_EQ(CreatePairing(connection_, rules, {courts, 1, odd}), "");
+    ASSERT_EQ(CreatePairing(connection_, rules, {courts, 1, odd}).sentence, "");
   }
 
   QList<Card> Make(int from, int to, CardSide side = CardSide::ByEntrant) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "play/Figures.h"
 #include "play/Pairing.h"
 #include "play/PlayFormat.h"
 
@@ -89,47 +88,27 @@ TEST(Court, ANameOfMoreThanThreeCharactersKeepsItsFirstThree) {
 }
 
 TEST(ByeCourts, EveryCourtButTheLastMustHaveAName) {
-  EXPECT_EQ(CheckByeCourts({"1", " ", "3"}).text, "Invalid court");
-  EXPECT_FALSE(CheckByeCourts({"1", " ", "3"}).isAdvice);
-  EXPECT_EQ(CheckByeCourts({"1", "2", ""}).text, "");
+  const Refusal refusal = CheckByeCourts({"1", " ", "3"});
+  EXPECT_EQ(refusal.sentence, "Invalid court");
+  EXPECT_EQ(refusal.about, "Courts");
+  EXPECT_FALSE(CheckByeCourts({"1", "2", ""}));
 }
 
 TEST(ByeCourts, TheLastCourtIsBetterBlankExceptForThreeToFiveCourts) {
   for (int courts = 2; courts <= 10; ++courts) {
     const QStringList named(courts, "7");
-    const CourtRemark remark = CheckByeCourts(named);
     const bool advised = courts < 3 || courts > 5;
-    EXPECT_EQ(remark.text, advised ? "Blank out last court to optimize court use" : "") << courts;
-    EXPECT_EQ(remark.isAdvice, advised) << courts;
+    EXPECT_EQ(ByeCourtAdvice(named), advised ? "Blank out last court to optimize court use" : "")
+        << courts;
+    EXPECT_FALSE(CheckByeCourts(named)) << courts;
   }
+  EXPECT_EQ(ByeCourtAdvice({"1", ""}), "");
 }
 
 TEST(Rounds, ATextThatAsksForNoneMeansOne) {
   const QPair<const char*, int> cases[] = {{"", 1},    {"0", 1}, {"x", 1},
                                            {"1e9", 1}, {"1", 1}, {"4", 4}};
   for (const auto& [text, rounds] : cases) EXPECT_EQ(RoundsOf(text), rounds) << text;
-}
-
-TEST(Figures, HandicapGivesThreeHundredthsAShoeForEachPercent) {
-  const struct {
-    double best, average;
-    int shoes;
-    double percent;
-    int pitchers, points;
-  } cases[] = {
-      {60, 40, 40, 100, 1, 24},  // 20 percent of 40 shoes are 8 ringers of 3 points
-      {60, 40, 40, 80, 1, 19},   // 19.2
-      {60, 40, 40, 80, 2, 38},   // 38.4: doubled before rounding
-      {60, 40, 0, 80, 1, 0},     // no fixed number of shoes
-      {60, 40, 40, 0, 1, 0},     // no handicap
-      {60, 60, 40, 100, 1, 0},   // the best gives, and gets none
-      {50, 25, 50, 20, 1, 8},    // 7.5 goes to the even 8
-      {50, 25, 50, 12, 1, 4},    // 4.5 goes to the even 4
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(HandicapFigure(c.best, c.average, c.shoes, c.percent, c.pitchers), c.points)
-        << c.best << '-' << c.average << ' ' << c.shoes << ' ' << c.percent;
-  }
 }
 
 QList<Game> Approvals(const QString& marks) {

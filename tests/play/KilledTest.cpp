@@ -18,7 +18,8 @@ constexpr const char* FileName = "TAVRELIN_KILLED_FILE";
 TEST(KilledChild, DISABLED_Rank) {
   Connection connection;
   connection.Open("DBQ=" + qEnvironmentVariable(FileName));
-  EXPECT_EQ(RankTheClass(connection, FindClass(connection, "2601007", "A").value()).refusal, "");
+  EXPECT_EQ(
+      RankTheClass(connection, FindClass(connection, "2601007", "A").value()).refusal.sentence, "");
 }
 
 /// One that sets the places of a class as the director wants them: the other way round.
@@ -32,7 +33,7 @@ TEST(KilledChild, DISABLED_Override) {
     standings.rows.Set("Override", place--);
     standings.rows.Update();
   }
-  EXPECT_EQ(ApplyOverride(connection, rules, standings.rows), "");
+  EXPECT_EQ(ApplyOverride(connection, rules, standings.rows).sentence, "");
 }
 
 class KilledTest : public ClassBench {

@@ -19,7 +19,7 @@ class PairingTest : public ClassBench {
   QString Pair(OddEntrant odd, int rounds = 1, QStringList courts = {}) {
     const ClassRules rules = Rules();
     if (courts.isEmpty()) courts = LoadClass(connection_, rules).courts;
-    return CreatePairing(connection_, rules, {courts, rounds, odd});
+    return CreatePairing(connection_, rules, {courts, rounds, odd}).sentence;
   }
 
   QStringList Games(const QString& columns, const QString& where = QStringLiteral("1 = 1")) {
@@ -38,9 +38,9 @@ TEST_F(PairingTest, AClassOfOneOrTwentyOneCannotBePaired) {
     AddClass("P", 0, "S", id);
     for (int n = 1; n <= entrants; ++n) Enter(n, 0, 0, id);
     if (entrants == 1) AddPlayers(21);
-    const QString message =
+    const Refusal refusal =
         CreatePairing(connection_, Rules(id), {QStringList(11, "1"), 1, OddEntrant::Bye});
-    EXPECT_EQ(message, "Cannot auto create pairings for a class of this size");
+    EXPECT_EQ(refusal.sentence, "Cannot auto create pairings for a class of this size");
   }
   EXPECT_EQ(Count(), 0);
 }
@@ -67,7 +67,7 @@ TEST_F(PairingTest, AnEvenClassNeedsNeither) {
 TEST_F(PairingTest, APairedClassIsNotPairedAgain) {
   MakeSingles(4);
   Pair(NotChosen);
-  EXPECT_EQ(CreatePairing(connection_, Rules(), {{"1", "2"}, 1, NotChosen}),
+  EXPECT_EQ(CreatePairing(connection_, Rules(), {{"1", "2"}, 1, NotChosen}).sentence,
             "Class has already been paired");
   EXPECT_EQ(Count(), 6);
 }

@@ -43,7 +43,7 @@ class PlayOutputBench : public ClassBench {
     Doubles ? MakeDoubles(entrants) : MakeSingles(entrants);
     if (entrants % 2 == 0) odd = OddEntrant::NotChosen;
     const QStringList courts = LoadClass(connection_, Rules()).courts;
-    ASSERT_EQ(CreatePairing(connection_, Rules(), {courts, 1, odd}), QString());
+    ASSERT_EQ(CreatePairing(connection_, Rules(), {courts, 1, odd}).sentence, QString());
   }
   void Play(const QString& where = "1 = 1") {
     const PlayFormat& format = Doubles ? DoublesFormat() : SinglesFormat();

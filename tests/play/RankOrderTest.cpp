@@ -59,7 +59,7 @@ TEST_F(RankOrderTest, FewerLossesStandFirstAmongEqualWins) {
 TEST_F(RankOrderTest, TheMethodAndTheHandicapChooseTheOrderAndItsName) {
   for (const OrderCase& c : Orders) {
     const ClassRules rules{"2601007", "A", "", c.handicap, 40, c.method, c.format, false};
-    const RankOrder order = OrderOf(rules, true);
+    const RankOrder order = OrderOf(rules, StandingOrder::Directed);
     EXPECT_EQ(order.sort.toStdString(), c.sort) << c.method << c.handicap << c.format;
     EXPECT_EQ(order.basis.toStdString(), c.basis) << c.method << c.handicap << c.format;
   }
@@ -67,11 +67,11 @@ TEST_F(RankOrderTest, TheMethodAndTheHandicapChooseTheOrderAndItsName) {
 
 TEST_F(RankOrderTest, OnlySinglesKnowAnOverrideAndOnlyPaperHonorsIt) {
   ClassRules rules{"2601007", "A", "", 0, 40, "P", "S", true};
-  EXPECT_EQ(OrderOf(rules, true).sort, "Override ASC");
-  EXPECT_EQ(OrderOf(rules, true).basis, "(Rank - Override)");
-  EXPECT_EQ(OrderOf(rules, false).basis, "(Rank: W/L - Pts - H2H - OvrAvg)");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Directed).sort, "Override ASC");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Directed).basis, "(Rank - Override)");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Computed).basis, "(Rank: W/L - Pts - H2H - OvrAvg)");
   rules.playFormat = "D";
-  EXPECT_EQ(OrderOf(rules, true).basis, "(Rank: W/L - Pts - H2H - OvrAvg)");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Directed).basis, "(Rank: W/L - Pts - H2H - OvrAvg)");
 }
 
 // Four players with one win and one loss each; no two methods put them in one order.
@@ -113,15 +113,53 @@ TEST_F(RankOrderTest, MethodRBreaksATieLastOnTheFigureOverAverage) {
   EXPECT_EQ(Order(Rank()), "1 2 3 4");
 }
 
-TEST_F(RankOrderTest, TheReportListHasNoPlacesAndIsNotSorted) {
-  MakeSingles(2);
-  Play({{2, 1, {30, 10}}});
-  const Standings standings = RankTheClass(connection_, Rules(), {.forReport = true});
-  EXPECT_EQ(standings.rows.FieldIndex("Rank"), -1);
-  EXPECT_EQ(standings.rows.FieldIndex("Override"), -1);
-  EXPECT_EQ(Order(standings), "1 2");
-  EXPECT_EQ(standings.rankBasis, "");
-  EXPECT_EQ(Figure(standings, 2, "Won"), 1);
+// Who is level on all that the rank method looks at is parted by seed and entry average.
+TEST_F(RankOrderTest, TheReportsGoOnBySeedAndEntryAverage) {
+  const QString tail = ", Seed ASC, EntryAvg DESC";
+  for (const OrderCase& c : Orders) {
+    const ClassRules rules{"2601007", "A", "", c.handicap, 40, c.method, c.format, false};
+    const RankOrder order = OrderOf(rules, StandingOrder::Report);
+    const bool pointsOfTeams = *c.format == 'D' && *c.method == 'R' && c.handicap == 0;
+    const char* sort = pointsOfTeams ? Orders[0].sort : c.sort;
+    EXPECT_EQ(order.sort, sort + tail) << c.method << c.handicap << c.format;
+    const bool unnamed = c.handicap == 0 && (*c.method == 'P' || *c.method == 0);
+    const char* basis = pointsOfTeams ? Orders[0].basis : c.basis;
+    EXPECT_EQ(order.basis, unnamed ? "" : basis) << c.method << c.handicap << c.format;
+  }
+}
+
+TEST_F(RankOrderTest, PostingDisregardsHandicapAndPlacesSetByHandAndHasOrdersOfItsOwn) {
+  const struct {
+    const char* method;
+    const char* format;
+    const char* sort;
+  } cases[] = {
+      {"R", "S", "RingerPercent DESC, HeadToHead DESC, Points DESC"},
+      {"H", "S", "HeadToHead DESC, RingerPercent DESC, Points DESC"},
+      {"O", "S", "OverAverage DESC, RingerPercent DESC, Points DESC"},
+      {"P", "S", "Points DESC, HeadToHead DESC, RingerPercent DESC"},
+      {"R", "D", "RingerPercent DESC, Points DESC"},
+      {"H", "D", "Points DESC, RingerPercent DESC"},
+      {"O", "D", "Points DESC, RingerPercent DESC"},
+      {"P", "D", "Points DESC, RingerPercent DESC"},
+  };
+  for (const auto& c : cases) {
+    for (const double handicap : {0, 80}) {
+      const ClassRules rules{"2601007", "A", "", handicap, 40, c.method, c.format, true};
+      const RankOrder order = OrderOf(rules, StandingOrder::Posting);
+      EXPECT_EQ(order.sort.toStdString(),
+                std::string("Won DESC, Loss ASC, ") + c.sort + ", Seed ASC, EntryAvg DESC");
+      EXPECT_EQ(order.basis, "");
+    }
+  }
+}
+
+TEST_F(RankOrderTest, ReportsHonorPlacesSetByHandAndTheListOfEntriesDoesNot) {
+  const ClassRules rules{"2601007", "A", "", 0, 40, "P", "S", true};
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Report).sort, "Override ASC");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Report).basis, "(Rank - Override)");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Entries).sort, "Seed ASC, EntryAvg DESC");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::Entries).basis, "");
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ TEST_F(RankOverrideTest, WithAnOverrideTheScreenKeepsTheComputedOrderAndPaperFol
     standings.rows.Update();
     standings.rows.MoveNext();
   }
-  EXPECT_EQ(ApplyOverride(connection_, rules, standings.rows), "");
+  EXPECT_EQ(ApplyOverride(connection_, rules, standings.rows).sentence, "");
   EXPECT_TRUE(rules.rankOverride);
   EXPECT_TRUE(Rules().rankOverride);
   standings = Rank();
@@ -59,7 +59,7 @@ TEST_F(RankOverrideTest, ADuplicatePlaceIsRefusedAndTheRowsBeforeItStayStored) {
     standings.rows.MoveNext();
   }
   ClassRules rules = Rules();
-  EXPECT_EQ(ApplyOverride(connection_, rules, standings.rows),
+  EXPECT_EQ(ApplyOverride(connection_, rules, standings.rows).sentence,
             "Duplicate Ranking: #3 is not allowed");
   EXPECT_FALSE(Rules().rankOverride);
   EXPECT_EQ(Stored(1, "RankOverride"), 1);
@@ -74,7 +74,7 @@ TEST_F(RankOverrideTest, AListThatHoldsAZeroIsRefusedOnItsFirstRow) {
   standings.rows.Set("Override", 0);
   standings.rows.Update();
   ClassRules rules = Rules();
-  EXPECT_EQ(ApplyOverride(connection_, rules, standings.rows),
+  EXPECT_EQ(ApplyOverride(connection_, rules, standings.rows).sentence,
             "Duplicate Ranking: #0 is not allowed");
   EXPECT_EQ(Stored(2, "RankOverride"), 0);
 }

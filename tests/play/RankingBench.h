@@ -15,7 +15,8 @@ class RankingBench : public ClassBench {
   }
 
   Standings Rank(bool honourOverride = false) {
-    return RankTheClass(connection_, Rules(), {.honourOverride = honourOverride});
+    return RankTheClass(connection_, Rules(),
+                        honourOverride ? StandingOrder::Directed : StandingOrder::Computed);
   }
 
   /// The entrants' numbers in place order.

@@ -115,7 +115,7 @@ TEST_F(ResultsCommandTest, AClassWithNoApprovedGameShowsItsEntrantsWithZeros) {
 TEST_F(ResultsCommandTest, TwentyPlayersInFourRoundsAreWholeOnPaperAndRefusedAsText) {
   MakeSingles(20);
   const QStringList courts = LoadClass(connection_, Rules()).courts;
-  ASSERT_EQ(CreatePairing(connection_, Rules(), {courts, 4, OddEntrant::NotChosen}), "");
+  ASSERT_EQ(CreatePairing(connection_, Rules(), {courts, 4, OddEntrant::NotChosen}).sentence, "");
   connection_.Execute("UPDATE TournamentSinglesRR SET Approved = True, PlayerOnePoints = 40");
   ASSERT_EQ(Results({"--pdf", Path("sheet.pdf")}).code, exits::Done);
   const PdfPages pdf(Path("sheet.pdf"));
@@ -171,7 +171,7 @@ TEST_F(ResultsCommandTest, DoublesHaveTheirOwnSheet) {
 
 TEST_F(ResultsCommandTest, AnEntrantWithASeedOfZeroHas99StoredInTheRecordsetAfterOutput) {
   PlaySingles();
-  Standings standings = RankTheClass(connection_, Rules(), {.honourOverride = true});
+  Standings standings = RankTheClass(connection_, Rules(), StandingOrder::Directed);
   ExportTheClass(ReadResults(connection_, standings), {});
   for (int position = 1; position <= 3; ++position) {
     EXPECT_EQ(standings.rows.CellAt(position, standings.rows.FieldIndex("Seed")).ToWhole(), 99);

@@ -206,12 +206,12 @@ TEST(ResultsText, TheSinglesFolderTakesItsBackslashAndTheDoublesFolderStaysAsItS
 
 TEST(ResultsText, AFileThatCannotBeOpenedIsASentenceAndNothingIsWritten) {
   const QTemporaryDir folder;
-  EXPECT_EQ(WriteResults(folder.filePath("none") + "/", " A.txt ", "text"),
+  EXPECT_EQ(WriteResults(folder.filePath("none") + "/", " A.txt ", "text").sentence,
             "Unable to open file. No such file or directory");
-  EXPECT_EQ(WriteResults(folder.path() + "/", "", "text"),
+  EXPECT_EQ(WriteResults(folder.path() + "/", "", "text").sentence,
             "Unable to open file. Filename refers to a directory");
   EXPECT_TRUE(QDir(folder.path()).isEmpty());
-  EXPECT_EQ(WriteResults(folder.path() + "/ ", " A.txt ", "one\ntwo\n"), "");
+  EXPECT_EQ(WriteResults(folder.path() + "/ ", " A.txt ", "one\ntwo\n").sentence, "");
   QFile file(folder.filePath("A.txt"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "one\r\ntwo\r\n");
@@ -219,7 +219,7 @@ TEST(ResultsText, AFileThatCannotBeOpenedIsASentenceAndNothingIsWritten) {
 
 TEST(ResultsText, ASlashInTheFileNameIsExplainedWhenItsFolderIsNotThere) {
   const QTemporaryDir folder;
-  EXPECT_EQ(WriteResults(folder.path() + "/", "Spring/Fall-A.txt", "text"),
+  EXPECT_EQ(WriteResults(folder.path() + "/", "Spring/Fall-A.txt", "text").sentence,
             "Unable to open file. No such file or directory (the \"/\" in the file name stands for "
             "a folder)");
   EXPECT_TRUE(QDir(folder.path()).isEmpty());

@@ -89,13 +89,14 @@ TEST_F(TeamRankingTest, HeadToHeadIsKeptByTeam) {
   EXPECT_EQ(Team(1, "HeadToHead"), 0);
 }
 
-TEST_F(TeamRankingTest, TheReportListKeepsTheOrderOfEntry) {
-  MakeDoubles(2);
-  PlayTeams({{2, 1, {30, 10}}});
-  const Standings standings = RankTheClass(connection_, Rules(), {.forReport = true});
-  EXPECT_EQ(Order(standings), "1 2");
-  EXPECT_EQ(Figure(standings, 2, "Won"), 1);
-  EXPECT_EQ(standings.rows["PlayerTwoName"].ToText(), "Bob Of1");
+// 1 and 2 beat 3 and 4: same percentage, no game between them; 2 has more points, 1 the better
+// seed.
+TEST_F(TeamRankingTest, TheReportsPartTeamsLevelOnThePercentageBySeedAndNotByPoints) {
+  MakeDoubles(4, "R");
+  connection_.Execute("UPDATE TournamentTeamEntrants SET Seed = 1 WHERE TeamID = 1");
+  PlayTeams({{1, 3, {30, 5}, {{10, 10}, {0, 0}}}, {2, 4, {31, 5}, {{10, 10}, {0, 0}}}});
+  EXPECT_EQ(Order(Rank()), "2 1 3 4");
+  EXPECT_EQ(Order(RankTheClass(connection_, Rules(), StandingOrder::Report)), "1 2 3 4");
 }
 
 }  // namespace

@@ -37,9 +37,9 @@ class uctPlayTimeTest : public ClassBench {
     bench.Click("cmdLoad");
   }
   void Pair(int entrants) {
-    CreatePairing(connection_, Rules(),
-                  {LoadClass(connection_, Rules()).courts, 1,
-                   entrants % 2 ? OddEntrant::Pacer : OddEntrant::NotChosen});
+    const auto odd = entrants % 2 ? OddEntrant::Pacer : OddEntrant::NotChosen;
+    const QStringList courts = LoadClass(connection_, Rules()).courts;
+    ASSERT_FALSE(CreatePairing(connection_, Rules(), {courts, 1, odd}));
   }
   void ShowPaired(int entrants, const QString& method = "P", double handicap = 0) {
     MakeSingles(entrants, method, handicap);

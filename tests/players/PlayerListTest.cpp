@@ -31,7 +31,9 @@ struct PlayerListTest : ClubFixture {
     members.Open("SELECT TeamID, PlayerID FROM TeamPlayers WHERE TeamID = 1 ORDER BY PlayerID",
                  connection, Recordset::Lock::Optimistic);
   }
-  QString Add(const Value& playerID) { return AddToPlayerList(members, "TeamID", 1, playerID); }
+  QString Add(const Value& playerID) {
+    return AddToPlayerList(members, "TeamID", 1, playerID).sentence;
+  }
 
   Recordset members;
 };

@@ -1,9 +1,6 @@
-#include "play/Figures.h"
-
-#include <algorithm>
+#include "basic/Figures.h"
 
 #include "basic/Conversions.h"
-#include "data/Recordset.h"
 
 namespace tavrelin {
 
@@ -15,15 +12,6 @@ int HandicapFigure(double best, double average, int shoes, double percent, int p
   if (shoes == 0 || percent == 0) return 0;
   const double points = (best - average) * (shoes * 0.0003 * percent);
   return static_cast<int>(RoundHalfEven(points * pitchers));
-}
-
-double LargestFigure(const Recordset& rows, const QString& field) {
-  const int index = rows.FieldIndex(field);
-  double largest = 0;
-  for (int position = 1; position <= rows.RecordCount(); ++position) {
-    largest = std::max(largest, rows.CellAt(position, index).ToNumber());
-  }
-  return largest;
 }
 
 }  // namespace tavrelin

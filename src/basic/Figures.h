@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QString>
-
 namespace tavrelin {
-
-class Recordset;
 
 /// Ringers of 100 shoes; 0 when no shoe was pitched. Unrounded.
 double RingerPercentage(double ringers, double shoes);
@@ -14,8 +10,5 @@ double RingerPercentage(double ringers, double shoes);
 /// point a shoe, of which `percent` hundredths are given; for each of `pitchers` players. Halves
 /// go to the even number. A class without a fixed number of shoes gives none.
 int HandicapFigure(double best, double average, int shoes, double percent, int pitchers = 1);
-
-/// The largest value of a percentage column over all rows; 0 when there is none. Leaves the cursor.
-double LargestFigure(const Recordset& rows, const QString& field);
 
 }  // namespace tavrelin
