@@ -55,9 +55,9 @@ void PlaceEntry(Work& work, const SampleClass& plan, const char* table, const ch
 void EnterTeams(Work& work, const SampleClass& plan) {
   for (int i = 0; i < plan.entrants; ++i) {
     const SampleTeam& team = work.teams[i];
-    const RowCheck check =
+    const Refusal refusal =
         EnterTeam(work.connection, work.plan.sanctionID, team.id, work.plan.date);
-    if (check.verdict != RowCheck::Verdict::Save) throw Error(errors::RecordState, check.message);
+    if (refusal) throw Error(errors::RecordState, refusal.sentence);
     PlaceEntry(work, plan, "TournamentTeamEntrants", "TeamID", team.id);
     work.entered << team.one.id << team.two.id;
   }

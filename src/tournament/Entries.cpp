@@ -50,10 +50,10 @@ double TeamAverage(const QList<Partner>& partners) {
   return sum / 2;
 }
 
-QString BrokenEntryRule(const RowValues& row) {
-  if (!IsNumeric(row.value("RingerPercent"))) return "Invalid ringer percent";
-  if (!IsNumeric(row.value("Paid"))) return "Invalid payment";
-  if (!IsNumeric(row.value("Seed"))) return "Invalid seed";
+Refusal CheckFigures(const RowValues& row) {
+  if (!IsNumeric(row.value("RingerPercent"))) return {"Invalid ringer percent"};
+  if (!IsNumeric(row.value("Paid"))) return {"Invalid payment"};
+  if (!IsNumeric(row.value("Seed"))) return {"Invalid seed"};
   return {};
 }
 
@@ -63,21 +63,18 @@ bool IsCount(const Value& value) {
   return IsNumeric(value) && std::abs(CDbl(value)) <= Most;
 }
 
-QString BrokenShoesRule(const RowValues& row) {
-  if (!IsCount(row.value("TotalShoes"))) return "Invalid Shoes";
-  if (!IsCount(row.value("TotalRingers"))) return "Invalid Ringers";
+Refusal CheckShoes(const RowValues& row) {
+  if (!IsCount(row.value("TotalShoes"))) return {"Invalid Shoes"};
+  if (!IsCount(row.value("TotalRingers"))) return {"Invalid Ringers"};
   if (CInt(row.value("TotalRingers")) > CInt(row.value("TotalShoes")))
-    return "Ringers cannot be greater than Shoes";
+    return {"Ringers cannot be greater than Shoes"};
   return {};
 }
 
-RowCheck RefusedIf(const QString& broken) {
-  RowCheck check;
-  if (!broken.isEmpty()) check.Refuse(broken);
-  return check;
+Refusal CheckPartners(const QList<Partner>& partners) {
+  if (partners.size() == 2) return {};
+  return {"Team must have two players"};
 }
-
-constexpr const char* TwoPlayers = "Team must have two players";
 
 }  // namespace
 
@@ -105,14 +102,12 @@ double EnterPlayer(Connection& connection, const QString& sanctionID, const QStr
   return average;
 }
 
-RowCheck EnterTeam(Connection& connection, const QString& sanctionID, int teamID,
-                   const QDate& today) {
-  RowCheck check;
-  if (IsEntered(connection, sanctionID, teamID))
-    return check.Refuse("Team already entered in Tournament");
+Refusal EnterTeam(Connection& connection, const QString& sanctionID, int teamID,
+                  const QDate& today) {
+  if (IsEntered(connection, sanctionID, teamID)) return {"Team already entered in Tournament"};
   const QList<Partner> partners =
       PartnersByTeam(connection, " AND t.TeamID = " + QString::number(teamID)).value(teamID);
-  if (partners.size() != 2) return check.Refuse(TwoPlayers);
+  if (const Refusal refusal = CheckPartners(partners)) return refusal;
 
   Partner one = partners[0], two = partners[1];
   const double first = EntryAverage(connection, one.playerID, one.category, today);
@@ -122,14 +117,11 @@ RowCheck EnterTeam(Connection& connection, const QString& sanctionID, int teamID
       "INSERT INTO TournamentTeamEntrants (SanctionID, TeamID, RingerPercent, PlayerOneID, "
       "PlayerTwoID) VALUES (?, ?, ?, ?, ?)",
       {sanctionID, teamID, (first + second) / 2, one.playerID, two.playerID});
-  return check;
+  return {};
 }
 
-RowCheck CheckAverageUpdate(const QDateTime& tournamentDate, const QDate& today) {
-  RowCheck check;
-  if (today > tournamentDate.date())
-    check.AskFirst("Confirm update", "Tournament occurs in the past.  Continue?");
-  return check;
+bool IsPast(const QDateTime& tournamentDate, const QDate& today) {
+  return today > tournamentDate.date();
 }
 
 void UpdatePlayerAverages(Connection& connection, const QString& sanctionID) {
@@ -149,19 +141,17 @@ void UpdatePlayerAverages(Connection& connection, const QString& sanctionID) {
   batch.Commit();
 }
 
-RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID) {
-  RowCheck check;
+Refusal UpdateTeamAverages(Connection& connection, const QString& sanctionID) {
   const QMap<int, QList<Partner>> teams = PartnersByTeam(connection);
   Recordset rows;
   rows.Open("SELECT TeamID FROM TournamentTeamEntrants WHERE SanctionID = ?", connection,
             Recordset::Lock::ReadOnly, {sanctionID});
+  Refusal refusal;
   Batch batch(connection);
   for (; !rows.AtEnd(); rows.MoveNext()) {
     const QList<Partner> partners = teams.value(CLng(rows["TeamID"]));
-    if (partners.size() != 2) {
-      check.Refuse(TwoPlayers);
-      break;
-    }
+    refusal = CheckPartners(partners);
+    if (refusal) break;
     const double average = TeamAverage(partners);
     if (average == 0) continue;
     connection.Execute(
@@ -169,12 +159,13 @@ RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID) {
         {average, sanctionID, rows["TeamID"]});
   }
   batch.Commit();
-  return check;
+  return refusal;
 }
 
 RowCheck CheckEntry(const RowValues& row) {
-  const QString broken = BrokenEntryRule(row);
-  return RefusedIf(broken.isEmpty() ? BrokenShoesRule(row) : broken);
+  RowCheck check;
+  const Refusal refusal = CheckFigures(row);
+  return check.RefuseIf(refusal ? refusal : CheckShoes(row));
 }
 
 RowCheck CheckClassChange(Recordset& entries, Recordset::Bookmark own, const RowValues& row) {
@@ -193,7 +184,8 @@ RowCheck CheckClassChange(Recordset& entries, Recordset::Bookmark own, const Row
 }
 
 RowCheck CheckTeamEntry(const RowValues& row) {
-  return RefusedIf(BrokenEntryRule(row));
+  RowCheck check;
+  return check.RefuseIf(CheckFigures(row));
 }
 
 }  // namespace tavrelin

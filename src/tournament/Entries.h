@@ -22,22 +22,21 @@ double EnterPlayer(Connection& connection, const QString& sanctionID, const QStr
 /// Enters a team of exactly two players, the stronger as player one, with the mean of their entry
 /// averages. Refused: a team that is entered already, or that has not exactly two players on the
 /// roster.
-RowCheck EnterTeam(Connection& connection, const QString& sanctionID, int teamID,
-                   const QDate& today);
+Refusal EnterTeam(Connection& connection, const QString& sanctionID, int teamID,
+                  const QDate& today);
 
-/// What the operator is asked before averages are brought up to date; Save when nothing needs
-/// asking.
-RowCheck CheckAverageUpdate(const QDateTime& tournamentDate, const QDate& today);
+/// True when the tournament's day is over: its averages are then not changed unasked.
+bool IsPast(const QDateTime& tournamentDate, const QDate& today);
 
 /// The roster's averages into the singles entries of a tournament; a player without one keeps what
 /// he has.
 void UpdatePlayerAverages(Connection& connection, const QString& sanctionID);
 
-/// The same for team entries. A team that no longer has exactly two players stops the run with a
-/// refusal; teams before it stay changed. The first player's average counts if there is one, the
+/// The same for team entries. Refused by the first team that no longer has exactly two
+/// players; teams before it stay changed. The first player's average counts if there is one, the
 /// second's only beside it; the team gets half the sum, so a partner without an average halves the
 /// first one's.
-RowCheck UpdateTeamAverages(Connection& connection, const QString& sanctionID);
+Refusal UpdateTeamAverages(Connection& connection, const QString& sanctionID);
 
 /// A singles entry about to be saved: percent, payment, seed, shoes and ringers are numbers,
 /// ringers within shoes.

@@ -23,19 +23,17 @@ bool IsClassDate(const Value& value) {
   return !value.IsNull() && (IsBlank(value) || IsDate(value));
 }
 
-// The first rule of the class that the row breaks, in the order in which they are told; empty when
-// it keeps all.
-QString BrokenClassRule(const RowValues& row, const Value& handicap) {
+Refusal CheckRules(const RowValues& row, const Value& handicap) {
   const Value method = row.value("RankMethod");
-  if (!IsClassDate(row.value("DateTime"))) return "Invalid date or time";
-  if (!IsNumeric(handicap)) return "Invalid Handicap";
-  if (!IsNumeric(row.value("Shoes"))) return "Invalid Shoes per game";
-  if (IsBlank(method)) return "Invalid rank method";
+  if (!IsClassDate(row.value("DateTime"))) return {"Invalid date or time"};
+  if (!IsNumeric(handicap)) return {"Invalid Handicap"};
+  if (!IsNumeric(row.value("Shoes"))) return {"Invalid Shoes per game"};
+  if (IsBlank(method)) return {"Invalid rank method"};
   if (CDbl(handicap) > 0 && method.Trimmed() == "R")
-    return "QLTA does not allow Ringer Percent Tie-breaker for Handicap Class";
-  if (IsBlank(row.value("PlayFormat"))) return "Invalid play format";
+    return {"QLTA does not allow Ringer Percent Tie-breaker for Handicap Class"};
+  if (IsBlank(row.value("PlayFormat"))) return {"Invalid play format"};
   if (!IsNumeric(row.value("PlacesPaidOut")))
-    return "Invalid NoPA.  NoPA is the number of players that will be awarded in the class";
+    return {"Invalid NoPA.  NoPA is the number of players that will be awarded in the class"};
   return {};
 }
 
@@ -67,9 +65,7 @@ RowCheck CheckTournamentClass(const RowValues& row, bool newRow, Recordset& othe
     handicap = 0;
     check.Fix("HandicapPct", handicap);
   }
-  const QString broken = BrokenClassRule(row, handicap);
-  if (!broken.isEmpty()) check.Refuse(broken);
-  return check;
+  return check.RefuseIf(CheckRules(row, handicap));
 }
 
 QDateTime DefaultClassStart(const QDateTime& tournamentDate) {

@@ -229,8 +229,9 @@ void uctEntrants::PlayerSelected() {
 void uctEntrants::TeamSelected() {
   if (!MayEnter()) return;
   const QString team = doubles_->list().Value("TeamID").Trimmed();
-  const RowCheck check = EnterTeam(*connection_, sanctionID_, team.toInt(), around().clock.Today());
-  if (check.verdict != RowCheck::Verdict::Save) return Refuse(check.message);
+  const QDate today = around().clock.Today();
+  const Refusal refusal = EnterTeam(*connection_, sanctionID_, team.toInt(), today);
+  if (refusal) return Refuse(refusal.sentence);
   doubles_->ShowEntries(*connection_, sanctionID_);
   doubles_->GoToPayment(team);
 }
@@ -238,18 +239,18 @@ void uctEntrants::TeamSelected() {
 void uctEntrants::cmdSetAverage_Click() {
   stsInfo()->ClearMessage();
   if (sanctionID_.isEmpty()) return Refuse("Choose a tournament first");
-  const RowCheck check = CheckAverageUpdate(tournamentDate_, around().clock.Today());
-  if (check.verdict == RowCheck::Verdict::Ask) {
+  if (IsPast(tournamentDate_, around().clock.Today())) {
     around().person.Beep();
-    if (!Ask(check)) return;
+    if (!around().person.Confirm("Confirm update", "Tournament occurs in the past.  Continue?"))
+      return;
   }
   if (!CommitEntries()) return;
   UpdatePlayerAverages(*connection_, sanctionID_);
   // Shoes and ringers stand empty until the tournament is chosen once more.
   singles_->ShowEntries(*connection_, sanctionID_, EntryFields::WithoutShoes);
-  const RowCheck teams = UpdateTeamAverages(*connection_, sanctionID_);
+  const Refusal refusal = UpdateTeamAverages(*connection_, sanctionID_);
   doubles_->ShowEntries(*connection_, sanctionID_);
-  if (teams.verdict != RowCheck::Verdict::Save) return Refuse(teams.message);
+  if (refusal) return Refuse(refusal.sentence);
   Say("Choose the tournament again to see and type shoes and ringers.");
 }
 

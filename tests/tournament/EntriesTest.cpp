@@ -53,11 +53,9 @@ struct EntriesTest : testing::Test {
                          {teamID, player});
   }
 
-  void Enter(int teamID) {
-    EXPECT_EQ(EnterTeam(connection, "MN25A01", teamID, Today).verdict, Verdict::Save);
-  }
+  void Enter(int teamID) { EXPECT_FALSE(EnterTeam(connection, "MN25A01", teamID, Today)); }
 
-  void Update() { EXPECT_EQ(UpdateTeamAverages(connection, "MN25A01").verdict, Verdict::Save); }
+  void Update() { EXPECT_FALSE(UpdateTeamAverages(connection, "MN25A01")); }
 
   Value Ask(const QString& sql) {
     Recordset rows;
@@ -209,7 +207,7 @@ TEST_F(EntriesTest, ATeamOfOneOrOfThreePlayersCannotBeEntered) {
   AddTeam(2, {"AAA000", "BBB000", "CCC000"});
   AddTeam(3, {"AAA000", "GONE00"});
   for (int team : {1, 2, 3, 99})
-    EXPECT_EQ(EnterTeam(connection, "MN25A01", team, Today).message, "Team must have two players")
+    EXPECT_EQ(EnterTeam(connection, "MN25A01", team, Today).sentence, "Team must have two players")
         << team;
   EXPECT_TRUE(Ask("SELECT TeamID FROM TournamentTeamEntrants").IsNull());
 }
@@ -218,11 +216,11 @@ TEST_F(EntriesTest, TheStrongerPartnerBecomesPlayerOneAndTheTeamGetsTheMean) {
   AddPlayer("AAA000", 40);
   AddPlayer("BBB000", 60);
   AddTeam(1, {"AAA000", "BBB000"});
-  EXPECT_EQ(EnterTeam(connection, "MN25A01", 1, Today).verdict, Verdict::Save);
+  EXPECT_FALSE(EnterTeam(connection, "MN25A01", 1, Today));
   EXPECT_EQ(Ask("SELECT PlayerOneID FROM TournamentTeamEntrants"), Value("BBB000"));
   EXPECT_EQ(Ask("SELECT PlayerTwoID FROM TournamentTeamEntrants"), Value("AAA000"));
   EXPECT_DOUBLE_EQ(TeamPercent(1), 50);
-  EXPECT_EQ(EnterTeam(connection, "MN25A01", 1, Today).message,
+  EXPECT_EQ(EnterTeam(connection, "MN25A01", 1, Today).sentence,
             "Team already entered in Tournament");
 }
 
@@ -234,13 +232,10 @@ TEST_F(EntriesTest, EqualPartnersKeepTheirStoredOrder) {
   EXPECT_EQ(Ask("SELECT PlayerOneID FROM TournamentTeamEntrants"), Value("BBB000"));
 }
 
-TEST_F(EntriesTest, OnlyAPastTournamentIsAskedAboutBeforeAveragesAreUpdated) {
-  EXPECT_EQ(CheckAverageUpdate(Today.addDays(1).startOfDay(), Today).verdict, Verdict::Save);
-  EXPECT_EQ(CheckAverageUpdate(Today.startOfDay(), Today).verdict, Verdict::Save);
-  const RowCheck past = CheckAverageUpdate(Today.addDays(-1).startOfDay(), Today);
-  EXPECT_EQ(past.verdict, Verdict::Ask);
-  EXPECT_EQ(past.title, "Confirm update");
-  EXPECT_EQ(past.question, "Tournament occurs in the past.  Continue?");
+TEST_F(EntriesTest, ATournamentIsPastOnceItsDayIsOver) {
+  EXPECT_FALSE(IsPast(Today.addDays(1).startOfDay(), Today));
+  EXPECT_FALSE(IsPast(Today.startOfDay(), Today));
+  EXPECT_TRUE(IsPast(Today.addDays(-1).startOfDay(), Today));
 }
 
 TEST_F(EntriesTest, APlayerWithoutARosterAverageKeepsWhatHeHas) {
@@ -267,7 +262,7 @@ TEST_F(EntriesTest, AMissingPartnerAverageHalvesTheFirstAndAMissingFirstLeavesTh
   AddTeam(3, {"AAA000", "DDD000"});
   for (int team : {1, 2, 3}) Enter(team);
   connection.Execute("UPDATE TournamentTeamEntrants SET RingerPercent = 11");
-  EXPECT_EQ(UpdateTeamAverages(connection, "MN25A01").verdict, Verdict::Save);
+  EXPECT_FALSE(UpdateTeamAverages(connection, "MN25A01"));
   EXPECT_DOUBLE_EQ(TeamPercent(1), 35);
   EXPECT_DOUBLE_EQ(TeamPercent(2), 11);
   EXPECT_DOUBLE_EQ(TeamPercent(3), 60);
@@ -281,7 +276,7 @@ TEST_F(EntriesTest, ATeamThatLostAPlayerStopsTheUpdateAndTheTeamsBeforeItStayCha
   for (int team : {1, 2, 3}) Enter(team);
   connection.Execute("UPDATE TournamentTeamEntrants SET RingerPercent = 11");
   connection.Execute("DELETE FROM Players WHERE PlayerID = 'CCC000'");
-  EXPECT_EQ(UpdateTeamAverages(connection, "MN25A01").message, "Team must have two players");
+  EXPECT_EQ(UpdateTeamAverages(connection, "MN25A01").sentence, "Team must have two players");
   EXPECT_DOUBLE_EQ(TeamPercent(1), 50);
   EXPECT_DOUBLE_EQ(TeamPercent(2), 11);
   EXPECT_DOUBLE_EQ(TeamPercent(3), 11);
