@@ -7,6 +7,8 @@
 #include <QTableWidget>
 #include <QTimer>
 
+#include "start/PeakOfMemory.h"
+
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QMainWindow window;
@@ -16,6 +18,7 @@ int main(int argc, char** argv) {
   window.show();
   QTimer::singleShot(0, &application, [&] {
     window.grab();
+    TellPeakOfMemory();
     std::_Exit(0);  // closing is not part of the start
   });
   return QApplication::exec();

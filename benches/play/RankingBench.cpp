@@ -2,11 +2,11 @@
 // SQLite, in one transaction and with the same settings of the file: only the rows it writes; the
 // games and entries it reads as well; and the totals added up by an update for each side of a game,
 // as the rule is told.
-#include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
 #include <QTemporaryDir>
 
+#include "Compare.h"
 #include "data/Connection.h"
 #include "data/Schema.h"
 #include "play/Ranking.h"
@@ -72,18 +72,6 @@ class Club {
 
   QTemporaryDir folder_;
 };
-
-void RankTheClassOf20(benchmark::State& state) {
-  Club club(static_cast<int>(state.range(0)));
-  const ClassRules rules = FindClass(club.connection, Sanction, "A").value();
-  for (auto _ : state) {
-    state.PauseTiming();
-    club.ClearTotals();
-    state.ResumeTiming();
-    benchmark::DoNotOptimize(RankTheClass(club.connection, rules).rankBasis);
-  }
-}
-BENCHMARK(RankTheClassOf20)->Arg(20)->Arg(50000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void Bind(sqlite3_stmt* statement, int at, const QByteArray& text) {
   sqlite3_bind_text(statement, at, text.constData(), -1, SQLITE_TRANSIENT);
@@ -159,40 +147,58 @@ class Bare {
   sqlite3_stmt *totals_, *add_, *tie_, *games_, *entries_, *names_;
 };
 
-template <typename Work>
-void RunBare(benchmark::State& state, Work work) {
-  Club club(static_cast<int>(state.range(0)));
+using BareWork = std::function<void(Bare&)>;
+
+void CompareRanking(benchmark::State& state, int roster, Goal goal, const BareWork& work) {
+  Club club(roster);
+  const ClassRules rules = FindClass(club.connection, Sanction, "A").value();
   Bare bare(club.connection.Handle());
-  for (auto _ : state) {
-    state.PauseTiming();
-    club.ClearTotals();
-    state.ResumeTiming();
+  const auto runBare = [&] {
     bare.Begin();
     work(bare);
     bare.Commit();
-  }
+  };
+  const auto rank = [&] {
+    benchmark::DoNotOptimize(RankTheClass(club.connection, rules).rankBasis);
+  };
+  Compare(state, goal, {rank, runBare, [&] { club.ClearTotals(); }});
 }
 
-void BareWrites(benchmark::State& state) {
-  RunBare(state, [](Bare& bare) { bare.Write(); });
+void ReadAndWrite(Bare& bare) {
+  bare.Read();
+  bare.Write();
 }
-BENCHMARK(BareWrites)->Arg(20)->Arg(50000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void BareReadsAndWrites(benchmark::State& state) {
-  RunBare(state, [](Bare& bare) {
-    bare.Read();
-    bare.Write();
-  });
+void RankBesideFinalRows(benchmark::State& state) {
+  CompareRanking(state, Players, 2.0, ReadAndWrite);
 }
-BENCHMARK(BareReadsAndWrites)->Arg(20)->Arg(50000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(RankBesideFinalRows)
+    ->Name("RankTheClass of 20, 760 games: reads and final rows")
+    ->Iterations(25);
 
-void BareUpdateForEachSide(benchmark::State& state) {
-  RunBare(state, [](Bare& bare) {
+void RankBesideAddingUp(benchmark::State& state) {
+  CompareRanking(state, Players, {}, [](Bare& bare) {
     bare.Read();
     bare.AddUp();
     bare.Write();
   });
 }
-BENCHMARK(BareUpdateForEachSide)->Arg(20)->Arg(50000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(RankBesideAddingUp)
+    ->Name("RankTheClass of 20, 760 games: an update a side")
+    ->Iterations(25);
+
+void RankBesideWrites(benchmark::State& state) {
+  CompareRanking(state, Players, {}, [](Bare& bare) { bare.Write(); });
+}
+BENCHMARK(RankBesideWrites)
+    ->Name("RankTheClass of 20, 760 games: final rows alone")
+    ->Iterations(25);
+
+void RankInALargeClub(benchmark::State& state) {
+  CompareRanking(state, 50000, 2.0, ReadAndWrite);
+}
+BENCHMARK(RankInALargeClub)
+    ->Name("RankTheClass of 20 with a roster of 50,000: reads and final rows")
+    ->Iterations(25);
 
 }  // namespace

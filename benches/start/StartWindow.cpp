@@ -13,6 +13,7 @@
 #include "shell/frmStartUp.h"
 #include "shell/StartUp.h"
 #include "shell/Store.h"
+#include "start/PeakOfMemory.h"
 
 int main(int argc, char** argv) {
   using namespace tavrelin;
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
   window.ShowAsLeft();
   QTimer::singleShot(0, &application, [&] {
     window.grab();
+    TellPeakOfMemory();
     std::_Exit(0);  // closing is not part of the start
   });
   return application.exec();

@@ -1,14 +1,12 @@
 // The sheet of a class of 20 over 4 rounds (standings and box scores, 76 games a player) as PDF,
 // beside painting the same texts at the same places with bare Qt; and 40 such classes in a row.
-#include <benchmark/benchmark.h>
-
 #include <QBuffer>
 #include <QFile>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPdfWriter>
 
+#include "Compare.h"
 #include "play/ResultsSheet.h"
 #include "play/SampleResults.h"
 #include "print/Fonts.h"
@@ -88,17 +86,25 @@ class BareSheet {
   QList<BarePage> pages_;
 };
 
-void ResultsOf20PlayersIn4Rounds(benchmark::State& state) {
+void ResultsBesideBareQt(benchmark::State& state) {
   const ClassResults results = SampleSingles(20, 76);
-  for (auto _ : state) benchmark::DoNotOptimize(PdfBytes(SheetOf(results)));
+  const BareSheet sheet(SheetOf(results));
+  Compare(state, 1.5,
+          {[&] { benchmark::DoNotOptimize(PdfBytes(SheetOf(results))); },
+           [&] { benchmark::DoNotOptimize(sheet.Pdf()); },
+           {}});
 }
-BENCHMARK(ResultsOf20PlayersIn4Rounds)->Unit(benchmark::kMillisecond);
+BENCHMARK(ResultsBesideBareQt)->Name("Results of 20 in 4 rounds to PDF")->Iterations(9);
 
-void TheSameTextsWithBareQt(benchmark::State& state) {
-  const BareSheet sheet(SheetOf(SampleSingles(20, 76)));
-  for (auto _ : state) benchmark::DoNotOptimize(sheet.Pdf());
+void Sheets(const ClassResults& results, int classes) {
+  for (int i = 0; i < classes; ++i) benchmark::DoNotOptimize(PdfBytes(SheetOf(results)));
 }
-BENCHMARK(TheSameTextsWithBareQt)->Unit(benchmark::kMillisecond);
+
+void ClassesInARow(benchmark::State& state) {
+  const ClassResults results = SampleSingles(20, 76);
+  Compare(state, 4.0, {[&] { Sheets(results, 40); }, [&] { Sheets(results, 10); }, {}});
+}
+BENCHMARK(ClassesInARow)->Name("40 classes to PDF beside 10: time")->Iterations(1);
 
 /// Resident memory in kilobytes.
 double Resident() {
@@ -107,23 +113,13 @@ double Resident() {
   return file.readAll().split(' ').value(1).toDouble() * 4;
 }
 
-void ClassesInARow(benchmark::State& state) {
+void MemoryOfClasses(benchmark::State& state) {
   const ClassResults results = SampleSingles(20, 76);
-  PdfBytes(SheetOf(results));
+  Sheets(results, 1);
   const double before = Resident();
-  for (auto _ : state) {
-    for (int i = 0; i < state.range(0); ++i) benchmark::DoNotOptimize(PdfBytes(SheetOf(results)));
-  }
-  state.counters["grown_kB"] = Resident() - before;
+  for (auto _ : state) Sheets(results, 40);
+  Tell(state, 1.1, Resident(), before, "kB");
 }
-BENCHMARK(ClassesInARow)->Arg(10)->Arg(20)->Arg(40)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(MemoryOfClasses)->Name("40 classes to PDF beside 1: memory")->Iterations(1);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
