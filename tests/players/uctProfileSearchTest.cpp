@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-#include "screens/ProfileScreenTest.h"
+#include "players/ProfileScreenTest.h"
 
 namespace tavrelin {
 namespace {

@@ -4,7 +4,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "screens/ProfileScreenTest.h"
+#include "players/ProfileScreenTest.h"
 
 namespace tavrelin {
 namespace {
