@@ -3,8 +3,10 @@
 #include <QTextStream>
 
 #include "app/ClubCommands.h"
+#include "leagues/Commands.h"
 #include "play/CardCommands.h"
 #include "play/Commands.h"
+#include "play/LeagueSendCommand.h"
 #include "play/ResultsCommand.h"
 #include "players/Commands.h"
 #include "sample/Commands.h"
@@ -29,7 +31,8 @@ int main(int argc, char** argv) {
   QTextStream err(stderr);
   QList<tavrelin::Command> commands =
       tavrelin::ClubCommands() + tavrelin::PlayCommands() + tavrelin::CardCommands();
-  commands << tavrelin::ResultsCommand();
+  commands << tavrelin::ResultsCommand() << tavrelin::LeagueSendCommand();
+  commands += tavrelin::LeagueCommands();
   commands += tavrelin::PlayerCommands();
   commands += tavrelin::SampleCommands();
   const int code = tavrelin::RunCommandLine(commands, arguments, out, err);

@@ -1,5 +1,7 @@
 #include "command/CommandLine.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <QFileInfo>
 #include <QLocale>
@@ -81,6 +83,25 @@ void TextTable::Row(const QList<Value>& cells) {
   out_ << texts.join(QLatin1Char('\t')) << '\n';
 }
 
+namespace {
+
+/// With the digits that make it this single and no other: 0.6666667, not those of the double in
+/// which it is passed on.
+QString SingleText(double number) {
+  std::array<char, 64> text;
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), static_cast<float>(number),
+                                 std::chars_format::fixed);
+  return QString::fromLatin1(text.data(), end.ptr - text.data());
+}
+
+Value CellOf(const Recordset& rows, int position, int field) {
+  const Value cell = rows.CellAt(position, field);
+  if (cell.IsNull() || rows.Fields()[field].type != FieldType::Single) return cell;
+  return SingleText(cell.ToNumber());
+}
+
+}  // namespace
+
 QString PlainText(const Value& value) {
   if (value.kind() == Value::Kind::Date) return StoredDate(value.ToDate());
   if (value.kind() == Value::Kind::Floating) {
@@ -106,7 +127,7 @@ void WriteRecordset(QTextStream& out, const Recordset& rows, const QStringList& 
   TextTable table(out, header);
   for (int position = 1; position <= rows.RecordCount(); ++position) {
     QList<Value> cells;
-    for (const int place : places) cells += rows.CellAt(position, place);
+    for (const int place : places) cells += CellOf(rows, position, place);
     table.Row(cells);
   }
 }

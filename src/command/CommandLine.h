@@ -60,7 +60,8 @@ class TextTable {
 QString PlainText(const Value& value);
 
 /// All rows of a recordset under its present sort and filter, with its field names as header; or
-/// only the fields named. The cursor stays where it is.
+/// only the fields named. A single has the seven or so digits that it holds. The cursor stays where
+/// it is.
 void WriteRecordset(QTextStream& out, const Recordset& rows, const QStringList& fields = {});
 
 /// The connection text for a file named on the command line, whatever it ends in.

@@ -175,4 +175,9 @@ QString BackUpBefore(const QString& deed, const QString& file, const QDateTime& 
   return made;
 }
 
+QString KeptBefore(const QString& backup) {
+  return QStringLiteral("The file as it was before is kept as %1")
+      .arg(QFileInfo(backup).fileName());
+}
+
 }  // namespace tavrelin

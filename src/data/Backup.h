@@ -48,6 +48,10 @@ QString BackUpClub(const QString& file, const QDateTime& now);
 /// Throws Error when it cannot be made and verified; the deed must not be done then.
 QString BackUpBefore(const QString& deed, const QString& file, const QDateTime& now);
 
+/// "The file as it was before is kept as Tavrelin.before-...mdb": what the message of such a deed
+/// ends with.
+QString KeptBefore(const QString& backup);
+
 /// Puts a backup in the place of the club's file, in one step: at every moment the place holds the
 /// old file or the restored one, whole. What it replaces is backed up first; a file too damaged for
 /// that is kept as it is, as "Backups/Tavrelin.damaged-2026-11-21.mdb". No connection of this

@@ -10,6 +10,7 @@
 #include "data/Recordset.h"
 #include "data/Schema.h"
 #include "sample/Dice.h"
+#include "sample/SampleLeagues.h"
 #include "sample/SampleRoster.h"
 #include "sample/SampleTournaments.h"
 
@@ -71,6 +72,7 @@ void FillClub(Connection& connection, unsigned seed) {
     if (plan.date == SampleDay()) LetResultsDecide(connection);
     AddSampleTournament(connection, dice, plan, players, teams);
   }
+  AddSampleLeagues(connection, dice, players, teams, SampleDay().addDays(-2));
   batch.Commit();
 }
 

@@ -10,9 +10,10 @@ inline constexpr int SampleYear = 2026;
 QDate SampleDay();
 
 /// Makes a club file to try things on: 120 invented players of all divisions, 16 teams, two past
-/// tournaments with their results, and an open one with a class of 12 that is half played and a
-/// class of 7 that waits for its pairing. All games are pitched by dice; the same seed gives the
-/// same club. The file appears whole; refused when one of that name exists.
+/// tournaments with their results, an open one with a class of 12 that is half played and a class
+/// of 7 that waits for its pairing, and three leagues after twelve evenings. All games are pitched
+/// by dice; the same seed gives the same club. The file appears whole; refused when one of that
+/// name exists.
 void MakeSampleClub(const QString& path, unsigned seed = 40);
 
 }  // namespace tavrelin

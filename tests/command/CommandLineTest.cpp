@@ -114,5 +114,20 @@ TEST(CommandLineTest, ARecordsetIsWrittenWithAHeaderLineUnderItsFilter) {
   EXPECT_THROW(WriteRecordset(outSome, rows, {"Nonsense"}), Error);
 }
 
+TEST(CommandLineTest, ASingleIsWrittenWithTheDigitsThatItHolds) {
+  Recordset rows;
+  rows.Append("Share", FieldType::Single);
+  rows.OpenInMemory();
+  for (const Value& share : {Value(2.0 / 3), Value(0.5), Value(1e-4), Value(-66.6), Value()}) {
+    rows.AddNew();
+    rows.Set("Share", share);
+    rows.Update();
+  }
+  QString all;
+  QTextStream out(&all);
+  WriteRecordset(out, rows);
+  EXPECT_EQ(all, "Share\n0.6666667\n0.5\n0.0001\n-66.6\n\n");
+}
+
 }  // namespace
 }  // namespace tavrelin

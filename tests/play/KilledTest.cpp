@@ -2,7 +2,9 @@
 
 #include <QFile>
 
+#include "leagues/League.h"
 #include "play/ClassBench.h"
+#include "play/LeagueSend.h"
 #include "play/Ranking.h"
 #include "play/RankOverride.h"
 #include "support/BuiltProgram.h"
@@ -36,6 +38,15 @@ TEST(KilledChild, DISABLED_Override) {
   EXPECT_EQ(ApplyOverride(connection, rules, standings.rows).sentence, "");
 }
 
+/// One that sends a class to a league.
+TEST(KilledChild, DISABLED_Send) {
+  Connection connection;
+  connection.Open("DBQ=" + qEnvironmentVariable(FileName));
+  const ClassRules rules = FindClass(connection, "2601007", "A").value();
+  const League league = FindLeague(connection, "2605001").value();
+  EXPECT_GT(SendClassToLeague(connection, rules, league, QDate(2026, 4, 7)).added, 0);
+}
+
 class KilledTest : public ClassBench {
  protected:
   /// Everything that a rule of play may write.
@@ -44,7 +55,7 @@ class KilledTest : public ClassBench {
     connection.Open("DBQ=" + path);
     QStringList all;
     for (const QString table : {"TournamentClasses", "TournamentSinglesRR", "TournamentEntrants",
-                                "TournamentDoublesRR", "TournamentTeamEntrants"}) {
+                                "TournamentDoublesRR", "TournamentTeamEntrants", "LeagueScores"}) {
       Recordset rows;
       for (rows.Open("SELECT * FROM " + table, connection); !rows.AtEnd(); rows.MoveNext()) {
         QString line;
@@ -126,6 +137,42 @@ TEST_F(KilledTest, ARankingOfTeamsIsThereWholeOrNotAtAll) {
     }
   }
   ExpectWholeOrNothing(FaultBench::Worker("KilledChild.DISABLED_Rank"));
+}
+
+TEST_F(KilledTest, ASendToALeagueIsThereWholeOrNotAtAll) {
+  MakeSingles(16);
+  {
+    Batch batch(connection_);
+    connection_.Execute("INSERT INTO Leagues (SanctionID) VALUES ('2605001')");
+    for (int one = 1; one <= 16; ++one) {
+      for (int two = one + 1; two <= 16; ++two) Store({one, two, {one, two}, {{one}, {two}}});
+    }
+  }
+  ExpectWholeOrNothing(FaultBench::Worker("KilledChild.DISABLED_Send"));
+}
+
+TEST_F(KilledTest, ASendToALeagueOnAFullDiskWritesNothing) {
+  MakeSingles(4);
+  Store({1, 2, {30, 24}});
+  connection_.Execute("INSERT INTO Leagues (SanctionID) VALUES ('2605001')");
+  connection_.Close();
+  const QStringList before = Content(path_);
+  FaultBench bench;
+  bench.SetVariable(FileName, Copy());
+  bench.SetVariable("ASAN_OPTIONS", "detect_leaks=0");
+  int refused = 0;
+  for (int at = 1;; ++at) {
+    QFile::remove(Copy());
+    ASSERT_TRUE(QFile::copy(path_, Copy()));
+    const FaultBench::Outcome outcome =
+        bench.FailFrom(at, "ENOSPC", FaultBench::Worker("KilledChild.DISABLED_Send"));
+    if (!outcome.ran) GTEST_SKIP() << "strace is not allowed here";
+    if (outcome.exitCode == 0) break;
+    EXPECT_EQ(Content(Copy()), before) << at;
+    ++refused;
+  }
+  EXPECT_NE(Content(Copy()), before);
+  EXPECT_GE(refused, 4);
 }
 
 TEST_F(KilledTest, PlacesSetByHandAreThereAllOfThemOrNone) {
