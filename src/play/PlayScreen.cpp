@@ -24,7 +24,6 @@
 #include "play/ResultsFrame.h"
 #include "play/ResultsText.h"
 #include "play/ScoreNames.h"
-#include "shell/MessageBar.h"
 #include "shell/Operator.h"
 #include "shell/Store.h"
 #include "shell/StoredValues.h"
@@ -158,7 +157,6 @@ void PlayScreen::cboLoad_Click() {
   const QString classID = ChosenCode(*cboClasses_);
   if (classID.isEmpty() || !DropClass()) return;
   if (!ReadClass(classID)) return;
-  stsInfo()->ClearMessage();
   Frame4_->SetFile(ResultsFile(data_->tournamentName + "-" + cboClasses_->currentText()));
   NameEntrants();
   if (data_->loaded.isPaired) {

@@ -16,7 +16,6 @@
 #include "play/ResultsSheet.h"
 #include "play/ResultsText.h"
 #include "print/Printer.h"
-#include "shell/MessageBar.h"
 #include "shell/Operator.h"
 
 namespace tavrelin {
@@ -39,7 +38,6 @@ void PlayScreen::ReadPaperSettings() {
 // Cards
 
 void PlayScreen::cmdPrintPair_Click() {
-  stsInfo()->ClearMessage();
   const CardJob job =
       MakeCardJob(data_->connection, data_->loaded, data_->cardSettings, Frame2_->Choice());
   if (job.refusal) {
@@ -96,7 +94,6 @@ void PlayScreen::chkExport_Click() {
 }
 
 std::optional<ClassResults> PlayScreen::RankForOutput() {
-  stsInfo()->ClearMessage();
   const ResultsChoice choice = Frame3_->Choice();
   if (!choice.standings && !choice.boxScores) {
     Refuse("Check either Standings or Box Scores or both");

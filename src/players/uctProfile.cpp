@@ -137,7 +137,6 @@ void uctProfile::UserControl_Hide() {
 }
 
 void uctProfile::cmdView_Click() {
-  stsInfo()->ClearMessage();
   const bool table = grdProfile_->CurrentView() == GridEX::View::Table;
   grdProfile_->SetView(table ? GridEX::View::Card : GridEX::View::Table);
   NameView();
@@ -153,13 +152,11 @@ void uctProfile::NameView() {
 }
 
 void uctProfile::Check1_Click() {
-  stsInfo()->ClearMessage();
   grdProfile_->SetGroupByBoxVisible(Check1_->isChecked());
   if (!Check1_->isChecked()) grdProfile_->ClearGroups();
 }
 
 void uctProfile::grdProfile_KeyDown(GridKeyDown& event) {
-  stsInfo()->ClearMessage();
   if (event.key == Qt::Key_Insert) {
     event.swallow = true;
     grdProfile_->MoveToNewRow();
@@ -174,7 +171,6 @@ void uctProfile::grdProfile_KeyDown(GridKeyDown& event) {
 }
 
 void uctProfile::grdProfile_KeyPress(GridKeyPress& event) {
-  stsInfo()->ClearMessage();
   if (event.column != "ZipCode" || event.character == u'\b') return;
   event.character = ZipCodeCharacter(event.character);
   if (event.character.isNull()) {
@@ -232,7 +228,6 @@ void uctProfile::grdProfile_BeforeDelete(GridDelete& event) {
 }
 
 void uctProfile::grdProfile_ColumnHeaderClick(const QString& column) {
-  stsInfo()->ClearMessage();
   SortBy(column, grdProfile_->NextOrder(column) == SortOrder::Ascending);
 }
 

@@ -93,7 +93,6 @@ void uctScores::ConnectEvents() {
     GridEX1_ColumnHeaderClick(column);
   };
   GridEX2_->on.KeyDown = [this](GridKeyDown& event) { GridEX2_KeyDown(event); };
-  GridEX2_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
   GridEX2_->on.ColumnHeaderClick = [this](const QString& column) {
     GridEX2_ColumnHeaderClick(column);
   };
@@ -156,7 +155,6 @@ void uctScores::PlayerSelected() {
 }
 
 void uctScores::GridEX1_KeyDown(GridKeyDown& event) {
-  stsInfo()->ClearMessage();
   if (event.key == Qt::Key_Return || event.key == Qt::Key_Enter) {
     event.swallow = true;
     PlayerSelected();
@@ -166,13 +164,11 @@ void uctScores::GridEX1_KeyDown(GridKeyDown& event) {
 }
 
 void uctScores::GridEX1_ColumnHeaderClick(const QString& column) {
-  stsInfo()->ClearMessage();
   search_->Clear();
   GridEX1_->SetSortKeys({{column, GridEX1_->NextOrder(column)}});
 }
 
 void uctScores::GridEX2_KeyDown(GridKeyDown& event) {
-  stsInfo()->ClearMessage();
   if (event.key == Qt::Key_Insert) {
     event.swallow = true;
     if (GridEX2_->MoveToNewRow()) GridEX2_->SetCol("SanctionID");
@@ -184,7 +180,6 @@ void uctScores::GridEX2_KeyDown(GridKeyDown& event) {
 
 // The percent is the query's own figure: rows typed since are read again before they are sorted.
 void uctScores::GridEX2_ColumnHeaderClick(const QString& column) {
-  stsInfo()->ClearMessage();
   if (data_->scores.IsOpen()) data_->scores.Requery();
   GridEX2_->SetSortKeys({{column, GridEX2_->NextOrder(column)}});
 }
@@ -221,7 +216,6 @@ void uctScores::GridEX2_BeforeUpdate(GridUpdate& update) {
 }
 
 void uctScores::GridEX2_BeforeDelete(GridDelete& event) {
-  stsInfo()->ClearMessage();
   event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected tournament score?");
 }
 

@@ -82,7 +82,6 @@ void uctTeam::BuildTeams() {
   GridEX1_->SetEmptyText("No teams yet. Type the name of the first one in the top row.");
   TypedSearch* search = SearchOf(*GridEX1_, "Team");
   GridEX1_->on.KeyDown = [this, search](GridKeyDown& event) { GridEX1_KeyDown(event, *search); };
-  GridEX1_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
   GridEX1_->on.DblClick = [this] { ListSelected(); };
   GridEX1_->on.BeforeUpdate = [this](GridUpdate& update) { GridEX1_BeforeUpdate(update); };
   GridEX1_->on.AfterUpdate = [this] { GridEX1_AfterUpdate(); };
@@ -146,7 +145,6 @@ void uctTeam::UserControl_Hide() {
 
 // Enter goes on to the players: whoever names a team wants to fill it.
 void uctTeam::GridEX1_KeyDown(GridKeyDown& event, TypedSearch& search) {
-  stsInfo()->ClearMessage();
   if (IsEnter(event) && GridEX1_->Row() > 0) {
     event.swallow = true;
     ListSelected();
@@ -169,7 +167,6 @@ void uctTeam::GridEX1_AfterUpdate() {
 }
 
 void uctTeam::GridEX1_BeforeDelete(GridDelete& event) {
-  stsInfo()->ClearMessage();
   event.cancel = !around().person.Confirm(
       "Confirm Deletion",
       "Deleting teams is not recommended.  It may result in invalid \r\nleague scores and "
@@ -178,7 +175,6 @@ void uctTeam::GridEX1_BeforeDelete(GridDelete& event) {
 }
 
 void uctTeam::GridEX2_KeyDown(GridKeyDown& event, TypedSearch& search) {
-  stsInfo()->ClearMessage();
   if (IsEnter(event)) {
     event.swallow = true;
     PlayerSelected();
@@ -191,7 +187,6 @@ void uctTeam::GridEX2_KeyDown(GridKeyDown& event, TypedSearch& search) {
 }
 
 void uctTeam::GridEX3_KeyDown(GridKeyDown& event, TypedSearch& search) {
-  stsInfo()->ClearMessage();
   if (event.key == Qt::Key_Escape) {
     event.swallow = true;
     GridEX1_->setFocus();
@@ -217,7 +212,6 @@ void uctTeam::ListSelected() {
 }
 
 void uctTeam::PlayerSelected() {
-  stsInfo()->ClearMessage();
   if (GridEX2_->Row() < 1) return;
   if (data_->teamID.IsNull()) return Refuse("Choose a team first: press Enter on it.");
   const Refusal refusal =

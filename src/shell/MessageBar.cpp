@@ -37,6 +37,7 @@ QString MessageBar::Message() const {
 
 void MessageBar::Put(const QString& message, bool refusal) {
   refusal_ = refusal;
+  ++stamp_;
   const int side = fontMetrics().height();
   icon_->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side, side));
   icon_->setVisible(refusal);

@@ -21,6 +21,8 @@ class MessageBar : public QStatusBar {
   /// The text of the first panel; empty when there is none.
   QString Message() const;
   bool IsRefusal() const { return refusal_; }
+  /// Tells one message from the next, also from one of the same text.
+  int Stamp() const { return stamp_; }
 
  private:
   void Put(const QString& message, bool refusal);
@@ -28,6 +30,7 @@ class MessageBar : public QStatusBar {
   QLabel* icon_;
   QLabel* text_;
   bool refusal_ = false;
+  int stamp_ = 0;
 };
 
 }  // namespace tavrelin

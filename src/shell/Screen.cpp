@@ -1,7 +1,7 @@
 #include "shell/Screen.h"
 
-#include <QHideEvent>
-#include <QShowEvent>
+#include <QApplication>
+#include <QKeyEvent>
 
 #include "basic/RowCheck.h"
 #include "controls/GridEX.h"
@@ -9,6 +9,26 @@
 #include "shell/Operator.h"
 
 namespace tavrelin {
+
+namespace {
+
+/// What a person does with keys, mouse or an input method. A key that is held down and the second
+/// press of a double click go on with a deed; the key of a shortcut arrives nowhere else.
+bool IsDeed(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+      return !static_cast<const QKeyEvent&>(event).isAutoRepeat();
+    case QEvent::InputMethod:
+      return !static_cast<const QInputMethodEvent&>(event).commitString().isEmpty();
+    case QEvent::MouseButtonPress:
+    case QEvent::Shortcut:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
 
 Screen::Screen(const QString& name, const QString& title, const Surroundings& surroundings,
                QWidget* parent)
@@ -43,12 +63,43 @@ void Screen::Settle(const RowCheck& check, GridEX& grid, GridUpdate& update) {
   if (!check.message.isEmpty()) Refuse(check.message);
 }
 
+// The message: a key or click notes the one it finds, and that one goes once the deed is done. One
+// that nothing took up arrives at the screen itself, and the message stays.
+
+bool Screen::eventFilter(QObject* watched, QEvent* event) {
+  const auto* control = qobject_cast<QWidget*>(watched);
+  const bool inMessage = control == stsInfo_ || stsInfo_->isAncestorOf(control);
+  const bool here = control && isAncestorOf(control) && control->isEnabled() && !inMessage;
+  if (here && IsDeed(*event) && !stale_) {
+    stale_ = stsInfo_->Stamp();
+    QMetaObject::invokeMethod(this, &Screen::ForgetMessage, Qt::QueuedConnection);
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void Screen::ForgetMessage() {
+  const bool old = stale_ == stsInfo_->Stamp();
+  stale_.reset();
+  if (old) stsInfo_->ClearMessage();
+}
+
+void Screen::keyPressEvent(QKeyEvent* event) {
+  stale_.reset();
+  event->ignore();
+}
+
+void Screen::mousePressEvent(QMouseEvent* event) {
+  stale_.reset();
+  event->ignore();
+}
+
 // Minimizing and restoring the window are the platform's own events: the screen stays as it is
 // then.
 void Screen::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (event->spontaneous()) return;
   stsInfo_->ClearMessage();
+  qApp->installEventFilter(this);
   Event("UserControl_Show", [this] { UserControl_Show(); });
   surroundings_.person.SetBusy(false);
 }
@@ -56,6 +107,7 @@ void Screen::showEvent(QShowEvent* event) {
 void Screen::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   if (event->spontaneous()) return;
+  qApp->removeEventFilter(this);
   Event("UserControl_Hide", [this] { UserControl_Hide(); });
 }
 

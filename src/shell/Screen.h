@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <QWidget>
 
 #include "shell/CSError.h"
@@ -36,6 +37,9 @@ struct Surroundings {
 /// window; never destroyed before it. A screen opens its own connection in UserControl_Show and
 /// drops it, with all its recordsets, in UserControl_Hide: nothing of the data survives in a hidden
 /// screen.
+///
+/// A message stays in stsInfo until the next key or click in the screen that acts; the screens
+/// clear nothing for that.
 ///
 /// Its objectName is its name ("uctProfile"); every control in it carries its own name as
 /// objectName too.
@@ -90,12 +94,18 @@ class Screen : public QWidget {
 
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  void ForgetMessage();
+
   QString title_;
   Surroundings surroundings_;
   CSError errors_;
   MessageBar* stsInfo_;
+  std::optional<int> stale_;  ///< stamp of the message that a key or click found
 };
 
 /// Makes one screen; the parent owns it.

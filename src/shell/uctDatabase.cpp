@@ -54,10 +54,8 @@ QPushButton* uctDatabase::NewButton(const char* name, const QString& caption, co
   auto* button = new QPushButton(caption, this);
   button->setObjectName(name);
   button->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
-  connect(button, &QPushButton::clicked, this, [this, procedure, click] {
-    stsInfo()->ClearMessage();
-    Event(procedure, [this, click] { (this->*click)(); });
-  });
+  connect(button, &QPushButton::clicked, this,
+          [this, procedure, click] { Event(procedure, [this, click] { (this->*click)(); }); });
   return button;
 }
 

@@ -87,7 +87,6 @@ void uctSettings::UserControl_Hide() {
 }
 
 void uctSettings::grdSettings_KeyDown(GridKeyDown& event) {
-  stsInfo()->ClearMessage();
   search_->KeyDown(event);
 }
 

@@ -23,10 +23,6 @@ EntrySide::EntrySide(EntrySideKind kind, const GridGuard& guard, QWidget* parent
 
 EntrySide::~EntrySide() = default;
 
-void EntrySide::Act() const {
-  if (Acted) Acted();
-}
-
 void EntrySide::BuildList() {
   list_->SetColumns(kind_.listColumns);
   list_->SetAllowEdit(false);
@@ -48,7 +44,6 @@ void EntrySide::BuildEntries() {
   entries_->SetEmptyText(kind_.entriesEmptyText);
   entries_->setEnabled(false);
   entries_->on.KeyDown = [this](GridKeyDown& event) { Entries_KeyDown(event); };
-  entries_->on.KeyPress = [this](GridKeyPress&) { Act(); };
   entries_->on.ColumnHeaderClick = [this](const QString& column) {
     Entries_ColumnHeaderClick(column);
   };
@@ -116,7 +111,6 @@ void EntrySide::Release() {
 }
 
 void EntrySide::List_KeyDown(GridKeyDown& event) {
-  Act();
   const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
   if (enter && entries_->isEnabled() && list_->Row() > 0) {
     event.swallow = true;
@@ -137,7 +131,6 @@ bool EntrySide::IsFirstCell() const {
 }
 
 void EntrySide::Entries_KeyDown(GridKeyDown& event) {
-  Act();
   const bool back =
       event.key == Qt::Key_Tab && (event.modifiers & Qt::ShiftModifier) && IsFirstCell();
   if (event.key == Qt::Key_Escape || back) {
@@ -150,7 +143,6 @@ void EntrySide::Entries_KeyDown(GridKeyDown& event) {
 
 // Equal values remain in order of strength.
 void EntrySide::Entries_ColumnHeaderClick(const QString& column) {
-  Act();
   const SortOrder order = entries_->NextOrder(column);
   entries_->ClearSortKeys();
   entries_->AddSortKey(column, order);

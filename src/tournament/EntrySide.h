@@ -41,8 +41,6 @@ class EntrySide : public QWidget {
 
   /// Enter or double click in the list while a tournament is chosen.
   std::function<void()> Selected;
-  /// Something is done in one of the grids; what was said before has had its day.
-  std::function<void()> Acted;
 
   void ShowList(Connection& connection);
   /// The entries of a tournament in the working order of the screen: by class, the strongest first.
@@ -56,7 +54,6 @@ class EntrySide : public QWidget {
   void Release();
 
  private:
-  void Act() const;
   void BuildList();
   void BuildEntries();
   void LayOut();

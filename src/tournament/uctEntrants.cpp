@@ -120,7 +120,6 @@ void uctEntrants::WireUp() {
   singles_->entries().on.BeforeUpdate = [this](GridUpdate& event) { GridEX2_BeforeUpdate(event); };
   doubles_->entries().on.BeforeUpdate = [this](GridUpdate& event) { GridEX4_BeforeUpdate(event); };
   for (EntrySide* side : {singles_, doubles_}) {
-    side->Acted = [this] { stsInfo()->ClearMessage(); };
     side->entries().on.BeforeDelete = [this](GridDelete& event) {
       event.cancel = !around().person.Confirm("Confirm Deletion", "Delete selected entry?");
     };
@@ -177,7 +176,6 @@ bool uctEntrants::CommitEntries() {
 }
 
 void uctEntrants::cboTournaments_LostFocus() {
-  stsInfo()->ClearMessage();
   if (!CommitEntries()) return cboTournaments_->GoBack();
   sanctionID_ = cboTournaments_->SanctionID();
   const std::optional<Tournament> found = FindTournament(*connection_, sanctionID_);
@@ -194,16 +192,12 @@ void uctEntrants::cboTournaments_LostFocus() {
   if (chosen) OpenSide().list().setFocus();
 }
 
-// A refusal stays with its row, and its row in its tab.
 void uctEntrants::SSTab1_Click() {
-  if (!singles_->entries().DataChanged() && !doubles_->entries().DataChanged())
-    stsInfo()->ClearMessage();
   OpenSide().list().setFocus();
 }
 
 // Entries under a number that no tournament has would be seen by nobody.
 bool uctEntrants::MayEnter() {
-  stsInfo()->ClearMessage();
   if (!CommitEntries()) return false;
   if (!onFile_)
     Refuse("Tournament " + FormatSanction(sanctionID_) +
@@ -237,7 +231,6 @@ void uctEntrants::TeamSelected() {
 }
 
 void uctEntrants::cmdSetAverage_Click() {
-  stsInfo()->ClearMessage();
   if (sanctionID_.isEmpty()) return Refuse("Choose a tournament first");
   if (IsPast(tournamentDate_, around().clock.Today())) {
     around().person.Beep();

@@ -106,7 +106,6 @@ void uctTournaments::BuildTournaments() {
     if (event.column != "SanctionID") return;
     GridEX1_->SetValue("SanctionID", CleanSanction(GridEX1_->Value("SanctionID").ToText()));
   };
-  GridEX1_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
   GridEX1_->on.DblClick = [this] {
     if (!GridEX1_->IsNewRow()) TournamentSelected();
   };
@@ -124,7 +123,6 @@ void uctTournaments::BuildClasses() {
   GridEX2_->SetEmptyText(ChooseFirst);
   GridEX2_->setEnabled(false);
   GridEX2_->on.KeyDown = [this](GridKeyDown& event) { GridEX2_KeyDown(event); };
-  GridEX2_->on.KeyPress = [this](GridKeyPress&) { stsInfo()->ClearMessage(); };
   GridEX2_->on.RowColChange = [this](int row, int col) { GridEX2_RowColChange(row, col); };
   GridEX2_->on.BeforeUpdate = [this](GridUpdate& event) { GridEX2_BeforeUpdate(event); };
   GridEX2_->on.LostFocus = [this] { GridEX2_LostFocus(); };
@@ -167,7 +165,6 @@ void uctTournaments::UserControl_Hide() {
 }
 
 void uctTournaments::GridEX1_KeyDown(GridKeyDown& event) {
-  stsInfo()->ClearMessage();
   const bool enter = event.key == Qt::Key_Return || event.key == Qt::Key_Enter;
   if (enter && GridEX1_->Col() != 0 && GridEX1_->Row() > 0) {
     event.swallow = true;
@@ -198,7 +195,6 @@ void uctTournaments::GridEX1_BeforeUpdate(GridUpdate& event) {
 }
 
 void uctTournaments::GridEX2_KeyDown(GridKeyDown& event) {
-  stsInfo()->ClearMessage();
   if (event.key == Qt::Key_Escape) {
     event.swallow = true;
     GridEX1_->setFocus();
@@ -237,7 +233,6 @@ void uctTournaments::GridEX2_LostFocus() {
 
 // A class that is refused keeps its row, also from a double click on another tournament.
 void uctTournaments::TournamentSelected() {
-  stsInfo()->ClearMessage();
   if (!GridEX2_->CommitRow() || !GridEX1_->CommitRow()) return;
   sanctionID_ = GridEX1_->Value("SanctionID").Trimmed();
   const QDateTime start = DefaultClassStart(GridEX1_->Value("Date").ToDate());
