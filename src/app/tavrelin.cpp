@@ -9,6 +9,7 @@
 #include "shell/Desktop.h"
 #include "shell/frmError.h"
 #include "shell/frmStartUp.h"
+#include "shell/SessionEnd.h"
 #include "shell/StartUp.h"
 #include "shell/Store.h"
 #include "shell/SystemInfo.h"
@@ -28,10 +29,11 @@ int OpenWindow(tavrelin::Application& application, const QString& database) {
   const CSError::Display showError = ErrorDialog(clipboard);
   application.SetErrorDisplay(showError);
   StartUp startUp(store, showError);
-  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp,
-                    AllScreens());
+  frmStartUp window({person, clock, clipboard, browser, store, printer, showError},
+                    startUp, AllScreens());
   window.Form_Load(database);
   window.ShowAsLeft();
+  const SessionEnd sessionEnd(window);
   const int result = application.exec();
   application.SetErrorDisplay({});
   return result;

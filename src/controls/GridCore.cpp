@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -227,11 +228,12 @@ bool GridCore::IsInside(const QWidget* widget) const {
   return widget != nullptr;
 }
 
-// Dialogs and other windows do not take the focus out of the grid: it comes back. Leaving for
-// another control saves the row, and a row that is refused brings the focus back.
+// Dialogs, other windows and the menus do not take the focus out of the grid: it comes back.
+// Leaving for another control saves the row, and a row that is refused brings the focus back.
 void GridCore::FocusMoved(QWidget* now) {
   const bool inside = IsInside(now);
-  if (inside == hasFocus_ || !now || (!inside && now->window() != face.window())) return;
+  const bool aside = !now || now->window() != face.window() || qobject_cast<QMenuBar*>(now);
+  if (inside == hasFocus_ || (!inside && aside)) return;
   if (!inside && !Commit() && face.isVisible() && face.isEnabled()) {
     view->setFocus();
     return;

@@ -87,6 +87,10 @@ class GridCore : public QObject {
 
   // The row
 
+  QString rowName;  ///< as in GridEX::SetRowName
+
+  /// The first text that the row shows, from the left; empty without one.
+  QString FirstText() const;
   void SetField(const QString& field, const tavrelin::Value& value);
   bool Changed() const { return model.Pending().changed; }
   void ForceChanged();

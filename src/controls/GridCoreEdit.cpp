@@ -89,6 +89,16 @@ void GridCore::ToggleCell() {
 
 // The row ---------------------------------------------------------------------------------------
 
+QString GridCore::FirstText() const {
+  for (const int number : Row() == 0 ? QList<int>() : model.VisibleColumns()) {
+    const GridColumn& column = model.Column(number);
+    const bool isText = !column.icon && column.editor != CellEditor::CheckBox;
+    const QString text = isText ? model.CellText(Line(), number).simplified() : QString();
+    if (!text.isEmpty()) return text;
+  }
+  return {};
+}
+
 void GridCore::SetField(const QString& field, const Value& value) {
   if (Row() == 0) return;
   PendingRow& pending = model.Pending();

@@ -147,6 +147,11 @@ class GridEX : public QWidget {
   bool IsEditing() const;  ///< a cell is open for typing
   /// Opens the current cell, if it can be edited.
   bool EditCell();
+  /// What a person calls a row: keys of columns in braces among other words, "{FirstName}
+  /// {LastName}". Without a pattern a row is called by the first text it shows.
+  void SetRowName(const QString& pattern);
+  /// The name of the current row with its pending changes; may be empty.
+  QString RowName() const;
   /// Takes the open cell over into the row.
   void EndEdit();
   /// EndEdit, then saves the row. True when nothing is pending any more.

@@ -105,6 +105,20 @@ void GridEX::SetDataChanged(bool changed) {
   }
 }
 
+void GridEX::SetRowName(const QString& pattern) {
+  core_->rowName = pattern;
+}
+
+QString GridEX::RowName() const {
+  if (core_->rowName.isEmpty()) return core_->FirstText();
+  QString name = core_->rowName;
+  for (const GridColumn& column : Columns()) {
+    const QString place = u'{' + column.Key() + u'}';
+    if (name.contains(place)) name.replace(place, TextAt(Row(), column.Key()));
+  }
+  return name.simplified();
+}
+
 bool GridEX::IsEditing() const {
   return core_->IsOpen();
 }

@@ -47,6 +47,7 @@ PlayScreen::~PlayScreen() = default;
 
 void PlayScreen::BuildScores() {
   GridEX1_->SetColumns(ScoreColumns(format_));
+  GridEX1_->SetRowName("Game {Game}");
   GridEX1_->SetIcons(ScoreIcons());
   GridEX1_->SetAllowAddNew(true);
   GridEX1_->SetAllowDelete(true);
@@ -113,7 +114,6 @@ void PlayScreen::UserControl_Show() {
 }
 
 void PlayScreen::UserControl_Hide() {
-  GridEX1_->CommitRow();
   GridEX1_->SetRecordset(nullptr);
   GridEX2_->SetRecordset(nullptr);
   data_.reset();

@@ -75,6 +75,7 @@ uctProfile::~uctProfile() = default;
 
 void uctProfile::UserControl_Initialize() {
   grdProfile_->SetColumns(ProfileColumns());
+  grdProfile_->SetRowName("{FirstName} {LastName}");
   grdProfile_->SetAllowAddNew(true);
   grdProfile_->SetAllowDelete(true);
   grdProfile_->SetRecordCounter(true);

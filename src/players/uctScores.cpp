@@ -82,6 +82,7 @@ void uctScores::UserControl_Initialize() {
   GridEX1_->SetRowMode(true);
   GridEX1_->SetEmptyText("No players on the roster yet. Add them under Players / Profile.");
   GridEX2_->SetColumns(ScoreColumns());
+  GridEX2_->SetRowName("{PlayerID} {SanctionID}");
   GridEX2_->SetAllowAddNew(true);
   GridEX2_->SetAllowDelete(true);
 }
@@ -129,7 +130,6 @@ void uctScores::LoadSanctions() {
 }
 
 void uctScores::UserControl_Hide() {
-  GridEX2_->CommitRow();
   search_->Clear();
   for (GridEX* grid : {GridEX1_, GridEX2_}) grid->SetRecordset(nullptr);
   for (const char* list : {"PlayerID", "SanctionID"}) GridEX2_->ClearValueList(list);

@@ -136,7 +136,6 @@ void uctTeam::LoadPool() {
 }
 
 void uctTeam::UserControl_Hide() {
-  GridEX1_->CommitRow();
   for (TypedSearch* search : searches_) search->Clear();
   for (GridEX* grid : {GridEX1_, GridEX2_, GridEX3_}) grid->SetRecordset(nullptr);
   GridEX3_->ClearValueList("PlayerID");

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTabWidget>
 
 #include "basic/RowCheck.h"
 #include "controls/GridEX.h"
@@ -9,6 +10,8 @@
 #include "shell/Operator.h"
 
 namespace tavrelin {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -63,6 +66,51 @@ void Screen::Settle(const RowCheck& check, GridEX& grid, GridUpdate& update) {
   if (!check.message.isEmpty()) Refuse(check.message);
 }
 
+// Leaving
+
+bool Screen::MayLeave(Leaving why) {
+  bool may = true;
+  // After a failure, which was shown, nobody is locked in.
+  const bool asked =
+      Event("MayLeave", [&] { may = (why == Leaving::Aside || SaveRows(why)) && !Holds(why); });
+  return may || !asked;
+}
+
+bool Screen::Holds(Leaving) {
+  return false;
+}
+
+bool Screen::SaveRows(Leaving why) {
+  stsInfo_->ClearMessage();
+  for (GridEX* grid : findChildren<GridEX*>()) {
+    if (!SaveRow(*grid, why)) return false;
+  }
+  return true;
+}
+
+bool Screen::SaveRow(GridEX& grid, Leaving why) {
+  grid.EndEdit();
+  const QString row = grid.RowName();  // a rule may throw the row away and stay
+  if (grid.CommitRow()) return true;
+  BringForward(grid);
+  if (why != Leaving::Window) return false;
+  const QString refusal = stsInfo_->IsRefusal() ? stsInfo_->Message() : QString();
+  const QString question = LeaveWithoutQuestion(row, refusal);
+  if (!surroundings_.person.Confirm(u"Confirm Leaving"_s, question)) return false;
+  grid.SetDataChanged(false);
+  return true;
+}
+
+void Screen::BringForward(GridEX& grid) {
+  for (QWidget* around = grid.parentWidget(); around != this; around = around->parentWidget()) {
+    auto* tabs = qobject_cast<QTabWidget*>(around);
+    for (int i = 0; tabs && i < tabs->count(); ++i) {
+      if (tabs->widget(i)->isAncestorOf(&grid)) tabs->setCurrentIndex(i);
+    }
+  }
+  grid.setFocus();
+}
+
 // The message: a key or click notes the one it finds, and that one goes once the deed is done. One
 // that nothing took up arrives at the screen itself, and the message stays.
 
@@ -108,7 +156,11 @@ void Screen::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
   if (event->spontaneous()) return;
   qApp->removeEventFilter(this);
-  Event("UserControl_Hide", [this] { UserControl_Hide(); });
+  // Who hides the screen has asked; a window that goes without asking has nobody to ask.
+  Event("UserControl_Hide", [this] {
+    for (GridEX* grid : findChildren<GridEX*>()) grid->CommitRow();
+    UserControl_Hide();
+  });
 }
 
 }  // namespace tavrelin

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "shell/CSError.h"
+#include "shell/Leaving.h"
 
 class QStatusBar;
 
@@ -38,6 +39,8 @@ struct Surroundings {
 /// drops it, with all its recordsets, in UserControl_Hide: nothing of the data survives in a hidden
 /// screen.
 ///
+/// Whatever takes a screen away asks MayLeave first.
+///
 /// A message stays in stsInfo until the next key or click in the screen that acts; the screens
 /// clear nothing for that.
 ///
@@ -53,6 +56,11 @@ class Screen : public QWidget {
 
   const QString& Title() const { return title_; }
 
+  /// Saves the typed rows of all grids in the screen. False, and the screen is to stay: a row was
+  /// refused, the message says why, and the cursor is in its grid; or the screen has another reason
+  /// (Holds). With Leaving::Window the operator may give the refused row up, and it is dropped.
+  [[nodiscard]] bool MayLeave(Leaving why);
+
  Q_SIGNALS:
   /// Asks the window to show another screen in place of this one.
   void NextUserControl(const QString& screen);
@@ -63,8 +71,12 @@ class Screen : public QWidget {
   /// Opens the connection, fills the controls. The busy pointer is taken back by the base
   /// afterwards.
   virtual void UserControl_Show() {}
-  /// Ends edits, stores what the operator left, drops recordsets and connection.
+  /// Stores what the operator left, drops recordsets and connection. The rows of the grids are
+  /// saved by then.
   virtual void UserControl_Hide() {}
+  /// True keeps the screen for a reason beyond its rows, which are saved by then but for
+  /// Leaving::Aside; says why with Refuse, and asks before it lets typed work be lost.
+  virtual bool Holds(Leaving why);
 
   /// Runs an event procedure under its name within this screen's CSError.
   bool Event(const char* procedure, const std::function<void()>& body) {
@@ -99,6 +111,9 @@ class Screen : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  bool SaveRows(Leaving why);
+  bool SaveRow(GridEX& grid, Leaving why);
+  void BringForward(GridEX& grid);
   void ForgetMessage();
 
   QString title_;

@@ -1,5 +1,6 @@
 #include "shell/frmStartUp.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QMenu>
@@ -70,19 +71,21 @@ frmStartUp::~frmStartUp() {
 void frmStartUp::MakeMenu() {
   auto* bar = new MenuBar(this);
   setMenuBar(bar);
-  auto add = [this](QWidget* menu, const char* name, const QString& caption,
+  auto add = [this](QWidget* menu, const char* name, const QString& caption, Leaving why,
                     void (frmStartUp::*command)()) {
     auto* action = new QAction(caption, this);
     action->setObjectName(QLatin1String(name));
     menu->addAction(action);
-    connect(action, &QAction::triggered, this, command);
+    connect(action, &QAction::triggered, this, [=, this] {
+      if (MayLeave(why)) (this->*command)();
+    });
   };
   QMenu* mnuFile = bar->addMenu(tr("&File"));
   mnuFile->setObjectName(QStringLiteral("mnuFile"));
-  add(mnuFile, "mnuExit", tr("Exit"), &frmStartUp::mnuExit_Click);
-  add(bar, "mnuAbout", tr("&About"), &frmStartUp::mnuAbout_Click);
-  add(bar, "mnuHelp", tr("&Help"), &frmStartUp::mnuHelp_Click);
-  add(bar, "mnuHelpDesk", tr("&Help Desk"), &frmStartUp::mnuHelpDesk_Click);
+  add(mnuFile, "mnuExit", tr("Exit"), Leaving::Window, &frmStartUp::mnuExit_Click);
+  add(bar, "mnuAbout", tr("&About"), Leaving::Aside, &frmStartUp::mnuAbout_Click);
+  add(bar, "mnuHelp", tr("&Help"), Leaving::Aside, &frmStartUp::mnuHelp_Click);
+  add(bar, "mnuHelpDesk", tr("&Help Desk"), Leaving::Aside, &frmStartUp::mnuHelpDesk_Click);
 }
 
 void frmStartUp::MakeBar() {
@@ -150,6 +153,7 @@ void frmStartUp::Listen(Screen* screen) {
 
 void frmStartUp::bbMenu_GroupClick(const QString& group) {
   if (modalActive_) return surroundings_.person.Beep();
+  if (!MayLeave(Leaving::Screen)) return;
   HidePresentScreen();
   bbMenu_->MarkItem({}, {});
   bbMenu_->OpenGroup(group);
@@ -157,6 +161,7 @@ void frmStartUp::bbMenu_GroupClick(const QString& group) {
 
 void frmStartUp::bbMenu_ItemClick(const QString& group, const QString& item) {
   if (modalActive_) return surroundings_.person.Beep();
+  if (!MayLeave(Leaving::Screen)) return;
   HidePresentScreen();
   const QString screen = ScreenOf(group, item);
   if (screen.isEmpty()) return;
@@ -171,9 +176,14 @@ void frmStartUp::uctControls_ModalBehavior(const Screen* sender, bool modal) {
 }
 
 void frmStartUp::uctControls_NextUserControl(const Screen* sender, const QString& name) {
-  if (sender != uctControls_) return;
+  if (sender != uctControls_ || !MayLeave(Leaving::Screen)) return;
   HidePresentScreen();
   ShowScreen(name.trimmed());
+}
+
+// A screen that a group header has hidden has been asked.
+bool frmStartUp::MayLeave(Leaving why) {
+  return !uctControls_ || !uctControls_->isVisible() || uctControls_->MayLeave(why);
 }
 
 void frmStartUp::HidePresentScreen() {
@@ -282,7 +292,9 @@ void frmStartUp::ShowAsLeft() {
   ShowWindowAsLeft(*this, surroundings_.store);
 }
 
+// What an open dialog asks about is not settled, and work that goes on is not done.
 void frmStartUp::closeEvent(QCloseEvent* event) {
+  if (QApplication::activeModalWidget() || !MayLeave(Leaving::Window)) return event->ignore();
   StoreWindowPlace(*this, surroundings_.store);
   QMainWindow::closeEvent(event);
 }

@@ -37,6 +37,9 @@ class frmStartUp : public QMainWindow {
   /// first button.
   Screen* uctControls() const { return uctControls_; }
   bool ModalActive() const { return modalActive_; }
+  /// Whether the shown screen makes way (Screen::MayLeave). All that takes it away asks here: the
+  /// bar, the menu, NextUserControl, closing the window, the end of the session.
+  [[nodiscard]] bool MayLeave(Leaving why);
   /// False while screens are still being made behind the open window.
   bool AllScreensMade() const { return toMake_.isEmpty(); }
 

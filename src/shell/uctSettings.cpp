@@ -52,6 +52,7 @@ uctSettings::~uctSettings() = default;
 
 void uctSettings::UserControl_Initialize() {
   grdSettings_->SetColumns(SettingColumns());
+  grdSettings_->SetRowName("{PromptValue}");
   grdSettings_->on.KeyDown = [this](GridKeyDown& event) { grdSettings_KeyDown(event); };
   grdSettings_->on.BeforeUpdate = [this](GridUpdate& update) { grdSettings_BeforeUpdate(update); };
 }
@@ -80,7 +81,6 @@ void uctSettings::UserControl_Show() {
 }
 
 void uctSettings::UserControl_Hide() {
-  grdSettings_->CommitRow();
   search_->Clear();
   grdSettings_->SetRecordset(nullptr);
   data_.reset();

@@ -104,7 +104,6 @@ void EntrySide::SetEntriesEnabled(bool enabled) {
 
 void EntrySide::Release() {
   search_->Clear();
-  entries_->CommitRow();
   for (GridEX* grid : {list_, entries_}) grid->SetRecordset(nullptr);
   for (Recordset* rows : {&listRows_, &entryKeys_, &entryRows_}) rows->Close();
   SetEntriesEnabled(false);

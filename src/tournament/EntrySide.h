@@ -50,7 +50,7 @@ class EntrySide : public QWidget {
   /// The cursor on the first row of an entrant, ready for the fee.
   void GoToPayment(const QString& entrant);
   void SetEntriesEnabled(bool enabled);
-  /// Ends edits and drops the rows.
+  /// Drops the rows.
   void Release();
 
  private:

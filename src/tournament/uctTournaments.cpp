@@ -97,6 +97,7 @@ void uctTournaments::UserControl_Initialize() {
 
 void uctTournaments::BuildTournaments() {
   GridEX1_->SetColumns(TournamentColumns());
+  GridEX1_->SetRowName("Tournament {SanctionID} {Name}");
   GridEX1_->SetAllowAddNew(true);
   GridEX1_->SetAllowDelete(true);
   GridEX1_->SetEmptyText(
@@ -118,6 +119,7 @@ void uctTournaments::BuildTournaments() {
 
 void uctTournaments::BuildClasses() {
   GridEX2_->SetColumns(ClassColumns());
+  GridEX2_->SetRowName("Class {ClassID}");
   GridEX2_->SetAllowAddNew(true);
   GridEX2_->SetAllowDelete(true);
   GridEX2_->SetEmptyText(ChooseFirst);
@@ -156,8 +158,6 @@ void uctTournaments::UserControl_Show() {
 }
 
 void uctTournaments::UserControl_Hide() {
-  GridEX1_->CommitRow();
-  GridEX2_->CommitRow();
   GridEX1_->SetRecordset(nullptr);
   GridEX2_->SetRecordset(nullptr);
   GridEX2_->setEnabled(false);

@@ -1,5 +1,6 @@
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QMenuBar>
 
 #include "basic/Error.h"
 #include "basic/RowCheck.h"
@@ -135,6 +136,42 @@ TEST_F(GridEditTest, ARuleIsObeyedAndItsFixesGoIntoTheRow) {
   check.Drop();
   EXPECT_TRUE(grid.CommitRow());
   EXPECT_EQ(bench.Stored(2, "LastName"), "Bakker");
+}
+
+TEST_F(GridEditTest, ARowIsCalledByItsPatternOrTheFirstTextItShows) {
+  struct Case {
+    QString pattern, name;
+  };
+  grid.SetRow(2);
+  grid.SetValue("LastName", "Zorn");  // not saved yet
+  const QList<Case> cases = {{"", "Bob"},
+                             {"{FirstName} {LastName}", "Bob Zorn"},
+                             {"Card {CardNumber}", "Card 1000"},
+                             {"{MembershipType} {Nothing}", "Provisional {Nothing}"},
+                             {"{BirthDate}", ""}};
+  for (const Case& one : cases) {
+    grid.SetRowName(one.pattern);
+    EXPECT_EQ(grid.RowName(), one.name) << one.pattern.toStdString();
+  }
+  grid.SetDataChanged(false);
+  grid.SetRowName({});
+  grid.MoveToNewRow();
+  EXPECT_EQ(grid.RowName(), "Standard") << "the first cell that is not empty";
+  grid.SetRecordset(nullptr);
+  EXPECT_EQ(grid.RowName(), "");
+}
+
+TEST_F(GridEditTest, TheMenuBarDoesNotTakeTheFocusOutOfTheGrid) {
+  int asked = 0;
+  grid.on.BeforeUpdate = [&](GridUpdate&) { ++asked; };
+  TypeInto(2, "LastName", "Zorn");
+  QMenuBar menu(&bench.window);
+  menu.show();
+  menu.setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(asked, 0);
+  grid.setFocus();
+  bench.after->setFocus();
+  EXPECT_EQ(asked, 1);
 }
 
 TEST_F(GridEditTest, AFailedUpdateShowsTheErrorKeepsTheInputAndTheNextTrySavesIt) {

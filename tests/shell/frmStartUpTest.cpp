@@ -18,10 +18,9 @@
 #include "controls/GridEX.h"
 #include "shell/HelpDesk.h"
 #include "shell/Routes.h"
-#include "shell/StartUp.h"
 #include "shell/Store.h"
 #include "support/RecordsetPrinters.h"
-#include "support/ScreenBench.h"
+#include "support/WindowBench.h"
 
 namespace tavrelin {
 namespace {
@@ -56,45 +55,12 @@ QList<MakeScreen> Probes() {
   return makers;
 }
 
-struct frmStartUpTest : testing::Test {
-  ScreenBench bench;
-  StartUp startUp{bench.store(), bench.errors.Display()};
-  std::unique_ptr<frmStartUp> window;
-
+struct frmStartUpTest : WindowBench {
   void SetUp() override {
-    qputenv("TAVRELIN_DATA", bench.PathOf("TavrelinData").toUtf8());
-    qputenv("ODBCINI", bench.PathOf("odbc.ini").toUtf8());
+    WindowBench::SetUp();
     Open(Probes());
   }
-  void TearDown() override {
-    window.reset();
-    qunsetenv("TAVRELIN_DATA");
-    qunsetenv("ODBCINI");
-    UseLightPalette();
-  }
-
-  void Open(const QList<MakeScreen>& screens) {
-    window = std::make_unique<frmStartUp>(bench.around(), startUp, screens);
-    window->Form_Load({});
-    window->resize(1366, 700);
-    window->show();
-    window->activateWindow();
-    bench.Drive(window.get());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window->AllScreensMade(); }));
-  }
   Probe& Of(const QString& screen) { return static_cast<Probe&>(bench.Find<Screen>(screen)); }
-  void Go(const QString& group, const QString& item) {
-    bench.Click(group);
-    bench.Click(group + "/" + item);
-  }
-  QStringList Visible() {
-    QStringList names;
-    for (const Screen* screen : window->findChildren<Screen*>()) {
-      if (screen->isVisible()) names.append(screen->objectName());
-    }
-    return names;
-  }
-  QAction& Command(const char* name) { return *window->findChild<QAction*>(name); }
   /// Runs when the next modal dialog is up, and closes it.
   void OnDialog(const std::function<void(QWidget&)>& look) {
     QTimer::singleShot(0, window.get(), [look] {

@@ -51,6 +51,7 @@ class ScreenBench {
   }
   /// Hides the screen and shows it again, as the button bar does.
   void LeaveAndReturn();
+  /// Hides the screen, as the button bar does once the screen makes way.
   void Leave();
 
   /// The window that keys and clicks go to and names are looked up in; Show sets it to the bench's

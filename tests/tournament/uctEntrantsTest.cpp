@@ -334,6 +334,21 @@ TEST_F(uctEntrantsTest, ATeamEntryNeedsNumbersForPercentPaymentAndSeed) {
   EXPECT_EQ(bench.Message(), "Invalid seed");
 }
 
+TEST_F(uctEntrantsTest, ARefusedEntryInTheOtherTabComesToTheFrontWhenTheScreenIsLeft) {
+  auto& screen = bench.Show<uctEntrants>();
+  Enter(Players(), 1);
+  Entered().SetValue("Seed", "x");
+  OpenDoubles();
+  EXPECT_FALSE(screen.MayLeave(Leaving::Screen));
+  EXPECT_EQ(bench.Find<QTabWidget>("SSTab1").currentIndex(), 0);
+  EXPECT_EQ(bench.FocusName(), "GridEX2_Table");
+  EXPECT_EQ(bench.Message(), "Invalid seed");
+  bench.person.WillAnswer(true);
+  EXPECT_TRUE(screen.MayLeave(Leaving::Window));
+  EXPECT_EQ(bench.person.questions[0].text,
+            "Adams, Ann is not saved: Invalid seed. Leave without it?");
+}
+
 TEST_F(uctEntrantsTest, EveryControlIsReachedByTabAndTheHiddenTabsGridsAreNot) {
   bench.Show<uctEntrants>();
   Enter(Players(), 1);
