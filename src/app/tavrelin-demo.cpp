@@ -9,6 +9,7 @@
 #include "app/DemoDesk.h"
 #include "app/DemoHands.h"
 #include "app/Screens.h"
+#include "basic/Progress.h"
 #include "controls/GridEX.h"
 #include "sample/Dice.h"
 #include "sample/PitchedGame.h"
@@ -163,7 +164,9 @@ int Play(const QString& database, DemoFolder& folder) {
     std::fprintf(stderr, "%s\n", qPrintable(report.description));
   };
   static_cast<Application*>(qApp)->SetErrorDisplay(showError);
-  const Surroundings surroundings{person, clock, clipboard, browser, store, printer, showError};
+  NoProgress progress;
+  const Surroundings surroundings{person, clock,   clipboard, browser,
+                                  store,  printer, progress,  showError};
   StartUp startUp(store, showError);
   frmStartUp window(surroundings, startUp, AllScreens());
   window.Form_Load(database);

@@ -7,6 +7,7 @@
 #include "print/SystemPrinter.h"
 #include "shell/Application.h"
 #include "shell/Desktop.h"
+#include "shell/DesktopProgress.h"
 #include "shell/frmError.h"
 #include "shell/frmStartUp.h"
 #include "shell/SessionEnd.h"
@@ -26,10 +27,11 @@ int OpenWindow(tavrelin::Application& application, const QString& database) {
   DesktopBrowser browser;
   Store store;
   SystemPrinter printer(person, store);
+  DesktopProgress progress;
   const CSError::Display showError = ErrorDialog(clipboard);
   application.SetErrorDisplay(showError);
   StartUp startUp(store, showError);
-  frmStartUp window({person, clock, clipboard, browser, store, printer, showError},
+  frmStartUp window({person, clock, clipboard, browser, store, printer, progress, showError},
                     startUp, AllScreens());
   window.Form_Load(database);
   window.ShowAsLeft();

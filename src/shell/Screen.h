@@ -18,6 +18,7 @@ class GridEX;
 class MessageBar;
 class Operator;
 class Printer;
+class Progress;
 class Store;
 struct GridUpdate;
 struct RowCheck;
@@ -31,6 +32,7 @@ struct Surroundings {
   Browser& browser;
   Store& store;
   Printer& printer;
+  Progress& progress;
   CSError::Display showError;
 };
 

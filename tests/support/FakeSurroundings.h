@@ -5,6 +5,7 @@
 #include <QList>
 #include <QStringList>
 
+#include "basic/Progress.h"
 #include "data/Backup.h"
 #include "shell/CSError.h"
 #include "shell/Operator.h"
@@ -93,6 +94,35 @@ class FakeBrowser : public Browser {
     opened.append(address);
     return works;
   }
+};
+
+/// Keeps what long work said, and cancels where a test wants it.
+class FakeProgress : public Progress {
+ public:
+  struct Work {
+    QString doing;
+    int total = 0;
+    Cancel cancel = Cancel::Never;
+    QList<int> steps;
+    bool ended = false;
+  };
+
+  QList<Work> works;  ///< in the order in which they began
+  int cancelAt = -1;  ///< the count of steps done at which the operator cancels; -1: never
+
+  void Begin(const QString& doing, int total, Cancel cancel) override {
+    open_.append(works.size());
+    works.append({doing, total, cancel, {}});
+  }
+  bool Step(int done) override {
+    Work& work = works[open_.last()];
+    work.steps.append(done);
+    return cancelAt < 0 || done < cancelAt || work.cancel == Cancel::Never;
+  }
+  void End() override { works[open_.takeLast()].ended = true; }
+
+ private:
+  QList<qsizetype> open_;
 };
 
 /// Takes the place of frmError. An error that no test took fails the test when the recorder ends.

@@ -53,7 +53,7 @@ ScreenBench::~ScreenBench() {
 }
 
 Surroundings ScreenBench::around() {
-  return {person, clock, clipboard, browser, *store_, printer, errors.Display()};
+  return {person, clock, clipboard, browser, *store_, printer, progress, errors.Display()};
 }
 
 QWidget* ScreenBench::Host() {

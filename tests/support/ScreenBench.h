@@ -33,6 +33,7 @@ class ScreenBench {
   FakeClipboard clipboard;
   FakeBrowser browser;
   FakePrinter printer;
+  FakeProgress progress;
   ErrorRecorder errors;
 
   Store& store() { return *store_; }
