@@ -59,7 +59,7 @@ class Sender {
       : connection_(connection),
         league_(league),
         evening_(evening),
-        format_(rules.Format()),
+        format_(FormatOf(rules)),
         present_(RowsOfClass(connection, rules)),
         teams_(LeagueTeamsOfPlayers(connection, league.sanctionID)) {
     sent_.teamLeague = league.teams;
@@ -136,13 +136,14 @@ QString SentToLeague::Message() const {
 SentToLeague SendClassToLeague(Connection& connection, const ClassRules& rules,
                                const League& league, const QDate& evening) {
   Recordset rows;
-  rows.Open(rules.Format().gamesStatement, connection, Recordset::Lock::ReadOnly,
+  rows.Open(FormatOf(rules).gamesStatement, connection, Recordset::Lock::ReadOnly,
             {rules.sanctionID, rules.classID});
   const int number = rows.FieldIndex(u"GameID"_s);
+  const GameReader reader(rows, FormatOf(rules));
   Sender sender(connection, rules, league, evening);
   Batch batch(connection);
   for (int position = 1; position <= rows.RecordCount(); ++position) {
-    const Game game = ReadGame(rows, position, rules.Format());
+    const Game game = reader.Read(rows, position);
     if (game.approved) sender.Send(game, rows.CellAt(position, number).ToWhole());
   }
   batch.Commit();

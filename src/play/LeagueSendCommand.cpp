@@ -29,7 +29,7 @@ int Send(const QStringList& arguments, QTextStream&, QTextStream& err) {
   Connection connection;
   connection.Open(FileConnectString(arguments[0]));
   const ClassRules rules = NamedClass(connection, arguments);
-  if (rules.Format().throwers.size() > 1) {
+  if (FormatOf(rules).IsDoubles()) {
     throw Error(errors::RecordState,
                 u"Class \"%1\" plays doubles; a league counts singles games"_s.arg(rules.classID));
   }
