@@ -61,7 +61,7 @@ const MethodOrder& Find(std::span<const MethodOrder> table, const QString& metho
 
 const MethodOrder& Played(const ClassRules& rules, StandingOrder order) {
   if (rules.handicapPct != 0) return Find(Handicap, rules.rankMethod);
-  const bool teams = FormatOf(rules).IsDoubles() && order != StandingOrder::Report;
+  const bool teams = FormatOf(rules).IsDoubles() && order != StandingOrder::AfterPlay;
   if (teams && rules.rankMethod == u"R") return TeamsByRingers;
   return Find(Scratch, rules.rankMethod);
 }
@@ -88,7 +88,7 @@ RankOrder OrderOf(const ClassRules& rules, StandingOrder order) {
   }
   const MethodOrder& method = Played(rules, order);
   const RankOrder played = {SortOf(method), QLatin1String(method.basis)};
-  if (order != StandingOrder::Report) return played;
+  if (order != StandingOrder::AfterPlay) return played;
   // The order by points has no name there.
   const bool named = rules.handicapPct != 0 || *method.method != '\0';
   return {played.sort + u", "_s + BySeed, named ? played.basis : QString()};

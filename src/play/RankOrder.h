@@ -9,11 +9,11 @@ struct ClassRules;
 
 /// What the standing of a class is put in order for.
 enum class StandingOrder {
-  Computed,  ///< for the screen: by the rank method
-  Directed,  ///< for sheet and text file: the same, unless the director set the places by hand
-  Report,    ///< for the reports after play: as Directed, then by seed and entry average
-  Entries,   ///< for the list of entries: by seed and entry average alone
-  Posting,   ///< for the pitchers' records: handicap and places set by hand do not count
+  Computed,   ///< for the screen: by the rank method
+  Directed,   ///< for sheet and text file: the same, unless the director set the places by hand
+  AfterPlay,  ///< for the reports after play: as Directed, then by seed and entry average
+  Entries,    ///< for the list of entries: by seed and entry average alone
+  Posting,    ///< for the pitchers' records: handicap and places set by hand do not count
 };
 
 /// An order of standing rows, as Recordset::SetSort takes it, and how paper names it.

@@ -118,7 +118,7 @@ TEST_F(RankOrderTest, TheReportsGoOnBySeedAndEntryAverage) {
   const QString tail = ", Seed ASC, EntryAvg DESC";
   for (const OrderCase& c : Orders) {
     const ClassRules rules{"2601007", "A", "", c.handicap, 40, c.method, c.format, false};
-    const RankOrder order = OrderOf(rules, StandingOrder::Report);
+    const RankOrder order = OrderOf(rules, StandingOrder::AfterPlay);
     const bool pointsOfTeams = *c.format == 'D' && *c.method == 'R' && c.handicap == 0;
     const char* sort = pointsOfTeams ? Orders[0].sort : c.sort;
     EXPECT_EQ(order.sort, sort + tail) << c.method << c.handicap << c.format;
@@ -156,8 +156,8 @@ TEST_F(RankOrderTest, PostingDisregardsHandicapAndPlacesSetByHandAndHasOrdersOfI
 
 TEST_F(RankOrderTest, ReportsHonorPlacesSetByHandAndTheListOfEntriesDoesNot) {
   const ClassRules rules{"2601007", "A", "", 0, 40, "P", "S", true};
-  EXPECT_EQ(OrderOf(rules, StandingOrder::Report).sort, "Override ASC");
-  EXPECT_EQ(OrderOf(rules, StandingOrder::Report).basis, "(Rank - Override)");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::AfterPlay).sort, "Override ASC");
+  EXPECT_EQ(OrderOf(rules, StandingOrder::AfterPlay).basis, "(Rank - Override)");
   EXPECT_EQ(OrderOf(rules, StandingOrder::Entries).sort, "Seed ASC, EntryAvg DESC");
   EXPECT_EQ(OrderOf(rules, StandingOrder::Entries).basis, "");
 }

@@ -96,7 +96,7 @@ TEST_F(TeamRankingTest, TheReportsPartTeamsLevelOnThePercentageBySeedAndNotByPoi
   connection_.Execute("UPDATE TournamentTeamEntrants SET Seed = 1 WHERE TeamID = 1");
   PlayTeams({{1, 3, {30, 5}, {{10, 10}, {0, 0}}}, {2, 4, {31, 5}, {{10, 10}, {0, 0}}}});
   EXPECT_EQ(Order(Rank()), "2 1 3 4");
-  EXPECT_EQ(Order(RankTheClass(connection_, Rules(), StandingOrder::Report)), "1 2 3 4");
+  EXPECT_EQ(Order(RankTheClass(connection_, Rules(), StandingOrder::AfterPlay)), "1 2 3 4");
 }
 
 }  // namespace
