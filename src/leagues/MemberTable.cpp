@@ -7,7 +7,6 @@
 #include "data/Connection.h"
 #include "leagues/League.h"
 #include "leagues/TeamTable.h"
-#include "players/PlayerNames.h"
 #include "players/PlayerTexts.h"
 
 namespace tavrelin {
@@ -85,7 +84,7 @@ QList<MemberStats> ReadMembers(Connection& connection, const League& league) {
   QList<MemberStats> members;
   for (; !rows.AtEnd(); rows.MoveNext()) {
     members.append({.playerID = rows.At(0).ToText(),
-                    .name = PersonName{rows.At(5).ToText(), rows.At(6).ToText()}.Listed(),
+                    .name = rows.At(6).ToText() + u", "_s + rows.At(5).ToText(),
                     .category = rows.At(7).ToText(),
                     .cardNumber = rows.At(8).ToText(),
                     .address = rows.At(9).ToText(),

@@ -18,15 +18,13 @@ SeasonGames::SeasonGames(Connection& connection, const QString& sanctionID) {
       u"SELECT PlayerID, TeamID, [Date], Shoes, Points, Ringers, WinLoss FROM LeagueScores "
       "WHERE SanctionID = ? ORDER BY PlayerID, [Date], ID"_s,
       connection, Recordset::Lock::ReadOnly, {sanctionID});
-  Range range;
   QString player;
   for (int position = 1; position <= rows_.RecordCount(); ++position) {
     const QString next = rows_.CellAt(position, PlayerID).ToText();
-    if (position == 1 || next != player) {
-      player = next;
-      ranges_[player] = {position, 0};
-    }
-    ++ranges_[player].count;
+    const bool another = next != player && CompareText(next, player) != 0;
+    if (position == 1 || another) ranges_[next].first = position;
+    ++ranges_[next].count;
+    player = next;
   }
 }
 

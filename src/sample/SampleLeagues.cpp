@@ -1,5 +1,6 @@
 #include "sample/SampleLeagues.h"
 
+#include <algorithm>
 #include <array>
 
 #include "basic/Error.h"
@@ -65,11 +66,15 @@ class Evenings {
   }
   /// What a member knows of himself before his first evening here.
   void BringAlong(const SamplePlayer& player, int startingAverage) {
+    const int highRingers = std::min(league_.shoes, HighRingers(player));
     connection_.Execute(
         u"UPDATE LeagueMembers SET StartingAverage = ?, HighGameRingers = ? WHERE "
         "SanctionID = ? AND PlayerID = ?"_s,
-        {startingAverage, static_cast<int>(player.skill * league_.shoes), league_.sanctionID,
-         player.id});
+        {startingAverage, highRingers, league_.sanctionID, player.id});
+  }
+  /// What a game of his gives where every ringer and every shoe in count is counted.
+  int UsualPoints(const SamplePlayer& player) const {
+    return static_cast<int>(league_.shoes * (player.skill * 2.45 + 0.55));
   }
   void Leave(const SamplePlayer& player) {
     connection_.Execute(
@@ -104,6 +109,10 @@ class Evenings {
   }
 
  private:
+  int HighRingers(const SamplePlayer& player) const {
+    return static_cast<int>(player.skill * league_.shoes) + 5;
+  }
+
   std::array<PitchedSide, 2> Pitch(double one, double two) {
     if (league_.cancellation) return PitchGame(dice_, {one, two}, league_.shoes);
     return {PitchAlone(dice_, one, league_.shoes), PitchAlone(dice_, two, league_.shoes)};
@@ -136,7 +145,8 @@ void PlaySingles(Connection& connection, Dice& dice, const LeaguePlan& plan,
   Evenings evenings(connection, dice, plan);
   const SamplePlayer latecomer = players.takeLast();
   for (int i = 0; i < players.size(); ++i) {
-    evenings.Join(players[i], i % 4 == 0 ? 0 : static_cast<int>(players[i].skill * 100));
+    const bool isNew = i % 4 == 0 || plan.cancellation;
+    evenings.Join(players[i], isNew ? 0 : evenings.UsualPoints(players[i]));
   }
   for (int night = 0; night < SampleNights; ++night) {
     if (night == LastNightOfTheLeaver) {
