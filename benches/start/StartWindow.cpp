@@ -9,6 +9,7 @@
 #include "print/SystemPrinter.h"
 #include "shell/Application.h"
 #include "shell/Desktop.h"
+#include "shell/DesktopProgress.h"
 #include "shell/frmError.h"
 #include "shell/frmStartUp.h"
 #include "shell/StartUp.h"
@@ -24,10 +25,11 @@ int main(int argc, char** argv) {
   DesktopBrowser browser;
   Store store;
   SystemPrinter printer(person, store);
+  DesktopProgress progress;
   const CSError::Display showError = ErrorDialog(clipboard);
   StartUp startUp(store, showError);
-  frmStartUp window({person, clock, clipboard, browser, store, printer, showError}, startUp,
-                    AllScreens());
+  frmStartUp window({person, clock, clipboard, browser, store, printer, progress, showError},
+                    startUp, AllScreens());
   window.Form_Load(application.arguments().value(1));
   window.ShowAsLeft();
   QTimer::singleShot(0, &application, [&] {
