@@ -15,6 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The number of "no such table".
+constexpr int NoTable = errors::Database + 1;
+
 /// Nothing typed counts for none.
 double Figure(const Value& value) {
   return IsNumeric(value) ? CDbl(value) : 0;
@@ -45,7 +48,7 @@ bool HasTeamWins(Connection& connection) {
     probe.Open(u"Select TeamID from LeagueTeamScores WHERE 1 = 2"_s, connection);
     return true;
   } catch (const Error& error) {
-    if (error.number() != errors::NoSuchTable) throw;
+    if (error.number() != NoTable) throw;
     return false;
   }
 }
